@@ -1,0 +1,67 @@
+#pragma once
+
+#include "icon/IconBitmap.h"
+#include "icon/IconPlanes.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace icon {
+
+// Limits of what the reader accepts before it allocates anything.
+inline constexpr int kMaxBmpSide = 256;  // BMP images: up to 256×256
+inline constexpr int kMaxPngSide = 1024; // PNG images: up to 1024×1024
+inline constexpr int kMaxPaletteSize = 256;
+
+enum class ImageFormat { Bmp, Png };
+
+// One image of an ICO or CUR file. Sizes and depth come from the image's own header; the
+// directory's values (which often lie) are kept apart and used only where the header says 0.
+struct IcoImageInfo {
+    int width = 0;
+    int height = 0;
+    int bitDepth = 0; // bits per pixel of the image (PNG: channels × bits per channel)
+    ImageFormat format = ImageFormat::Bmp;
+    std::uint32_t offset = 0; // of the image data in the file
+    std::uint32_t size = 0;   // bytes of the image data
+    int directoryWidth = 0;   // as the directory says (0 there means 256)
+    int directoryHeight = 0;
+    int directoryBitCount = 0;
+};
+
+// The directory of an ICO (type 1) or CUR (type 2) file.
+struct IcoDirectory {
+    int type = 1;
+    std::vector<IcoImageInfo> images; // in file order
+};
+
+// Parses the 6-byte header and the directory entries and reads each image's own header.
+// Nothing when the bytes are not an ICO or CUR file (or hold no image at all).
+std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes);
+
+// Decodes one image of the file at its own size. Nothing when its data is unusable.
+std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes,
+                                      const IcoImageInfo& info);
+
+// Which image the editor takes for a side of `size` pixels: an image of exactly size×size with the
+// deepest colour format; with none, the image nearest in size. -1 when there is no image.
+int chooseImage(const IcoDirectory& directory, int size);
+
+// The first icon of an ICO or CUR file, chosen for `size` and brought to size×size by dropping or
+// repeating pixels. Nothing when the file cannot be decoded.
+std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int size);
+// The editor's planes of an icon file (size 32).
+std::optional<IconPlanes> decodeIconPlanes(std::span<const std::uint8_t> bytes);
+
+// The image count of the 6-byte header as a signed 16-bit value; MultiImageFile is count >= 2
+// (a count with bit 15 set reads negative, hence false). Nothing when there are not 6 bytes.
+std::optional<int> readHeaderCount(std::span<const std::uint8_t> bytes);
+
+// The editor's validity test: the file loads with this reader or with one of Qt's image readers.
+bool isLoadablePicture(const QString& path);
+
+} // namespace icon

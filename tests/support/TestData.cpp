@@ -1,0 +1,36 @@
+#include "tests/support/TestData.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace testsupport {
+
+QString testData(const QString& relative) {
+    return QDir(QStringLiteral(ORVANNE_TESTDATA)).filePath(relative);
+}
+
+QStringList testFiles(const QString& relativeFolder) {
+    QDir dir(testData(relativeFolder));
+    QStringList files;
+    for (const QString& name : dir.entryList(QDir::Files, QDir::Name))
+        files << dir.filePath(name);
+    return files;
+}
+
+std::vector<std::uint8_t> fileBytes(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        ADD_FAILURE() << "cannot read " << path.toStdString();
+        return {};
+    }
+    const QByteArray data = file.readAll();
+    return {data.begin(), data.end()};
+}
+
+QString screenshotFolder() {
+    return QStringLiteral(ORVANNE_SCREENSHOTS);
+}
+
+} // namespace testsupport
