@@ -1,0 +1,503 @@
+#include "browser/ui/FenPrin.h"
+
+#include "browser/FolderTree.h"
+#include "browser/ui/CentrePicture.h"
+#include "browser/ui/IconGridView.h"
+#include "browser/ui/MovePictures.h"
+#include "browser/ui/PopUpInfos.h"
+#include "platform/GradientButton.h"
+#include "platform/GradientPanel.h"
+#include "platform/HelpBubbles.h"
+#include "platform/Services.h"
+#include "platform/TitleButton.h"
+#include "platform/WindowStyle.h"
+#include "shell/AppState.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QListWidget>
+#include <QPainter>
+#include <QStyle>
+#include <QStyledItemDelegate>
+
+namespace browser::ui {
+
+namespace {
+
+using platform::twips;
+using shell::SchemeColour;
+
+constexpr int kDepthRole = Qt::UserRole + 1;
+constexpr int kPathRole = Qt::UserRole + 2;
+const QPoint kGridPlace(twips(3285), twips(840));
+const QPoint kPopUpPlace(twips(4000), twips(240));
+
+// The folder list indents each folder by its depth, as the classic folder list does.
+class FolderDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem indented(option);
+        indented.rect.adjust(index.data(kDepthRole).toInt() * 10, 0, 0, 0);
+        QStyledItemDelegate::paint(painter, indented, index);
+    }
+};
+
+// The commands a display enables when the folder holds icons, and an empty folder disables.
+const char* const kFileCommands[] = {"CmdCOPIER", "CmdRename", "CmdSuppr", "CmdIcoBmp",
+                                     "CmdCopImg"};
+const char* const kMoveCommands[] = {"DeplaceDebut", "DeplaceHaut", "DeplaceBas", "DeplaceFin"};
+
+shell::Preferences& preferences() {
+    return shell::appState().preferences;
+}
+
+} // namespace
+
+FenPrin::FenPrin(const ThumbnailProvider& provider, QWidget* parent)
+    : QWidget(parent)
+    , m_grid(provider) {
+    setObjectName(QStringLiteral("FenPrin"));
+    setWindowTitle(QStringLiteral("Orvanne®"));
+    platform::makeFrameless(*this);
+    setFixedSize(twips(7860), twips(5440));
+
+    // What the main window reads while it loads: colours, grid view, help bubbles.
+    preferences() = shell::Preferences::load(shell::Settings());
+    m_grid.setView(preferences().icons48 ? GridView::Icons48 : GridView::Icons32);
+
+    buildTitleRow();
+    buildLists();
+    buildCommands();
+    buildGrid();
+    buildMoves();
+    m_popUp = new PopUpInfos(this);
+    m_popUp->hide();
+    connect(m_popUp, &PopUpInfos::coloursChanged, this, &FenPrin::applyColours);
+    connect(m_popUp, &PopUpInfos::aboutRequested, this, &FenPrin::aboutRequested);
+
+    for (const char* name : kMoveCommands)
+        m_ready.insert(QString::fromLatin1(name));
+    applyColours();
+    placeGrids();
+    clearGrid();
+}
+
+FenPrin::~FenPrin() = default;
+
+void FenPrin::buildTitleRow() {
+    auto* title = new platform::TitleButton(QStringLiteral("Orvanne®"), this);
+    title->setGeometry(4, 4, 404, 22);
+    auto* options = addCommand("CmdApropos", QStringLiteral("Options"),
+                               QStringLiteral("Couleurs, préférences et à propos de Orvanne®"),
+                               QRect(412, 4, 60, 22));
+    connect(options, &QAbstractButton::clicked, this, &FenPrin::togglePopUp);
+    auto* minimise = addCommand("CmdReduire", {}, QStringLiteral("Réduire"), QRect(476, 4, 22, 22));
+    minimise->setPicture(windowPicture(WindowPicture::Minimise), Qt::AlignCenter);
+    connect(minimise, &QAbstractButton::clicked, this, [this] {
+        hidePopUp();
+        showMinimized();
+    });
+    auto* close = addCommand("CmdFermer", {}, QStringLiteral("Fermer"), QRect(500, 4, 20, 22));
+    close->setPicture(windowPicture(WindowPicture::Close), Qt::AlignCenter);
+    connect(close, &QAbstractButton::clicked, this, &QWidget::close);
+}
+
+void FenPrin::buildLists() {
+    auto* frame = new platform::GradientPanel(this);
+    frame->setObjectName(QStringLiteral("Forme3"));
+    frame->setGeometry(4, 30, 211, 180);
+
+    m_drives = new QComboBox(this);
+    m_drives->setObjectName(QStringLiteral("Lecteur"));
+    m_drives->setGeometry(8, 34, 203, 22);
+    m_volumes = mountedVolumes();
+    for (const Volume& volume : m_volumes)
+        m_drives->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon), volume.text(), volume.root);
+    connect(m_drives, &QComboBox::activated, this, &FenPrin::driveChosen);
+
+    m_folders = new QListWidget(this);
+    m_folders->setObjectName(QStringLiteral("Repertoire"));
+    m_folders->setGeometry(8, 60, 203, 146);
+    m_folders->setItemDelegate(new FolderDelegate(m_folders));
+    m_folders->setIconSize(QSize(16, 16));
+    m_folders->setFrameShape(QFrame::NoFrame);
+    connect(m_folders, &QListWidget::itemClicked, this, &FenPrin::folderItemClicked);
+    connect(m_folders, &QListWidget::itemActivated, this, &FenPrin::folderItemClicked);
+}
+
+void FenPrin::buildCommands() {
+    auto* frame = new platform::GradientPanel(this);
+    frame->setObjectName(QStringLiteral("Forme1"));
+    frame->setGeometry(4, 212, 211, 147);
+    struct Command {
+        const char* name;
+        const char* caption;
+        const char* help;
+    };
+    static const Command commands[] = {
+        {"CmdCOPIER", "Copier", "Copier l'icône/Appel de la fenêtre d'ouverture de fichiers"},
+        {"CmdRename", "Renommer", "Renommer l'icône"},
+        {"CmdSuppr", "Supprimer", "Supprimer l'icône"},
+        {"CmdCopImg", "Copier l'image", "Copie l'icône dans le presse-papiers"},
+        {"CmdIcoBmp", "ICO en BMP", "Transformation de l'icône en BMP"},
+        {"CmdVisuBmp", "Voir un BMP", "Visualisation des fichiers BMP"},
+        {"CmdDLL", "ANI, DLL, EXE...", "Affichage des icônes contenues dans les fichiers ANI, DLL, EXE ou ICL"},
+        {"CmdIcoBmpDLL", "Extraite en BMP",
+         "Transformation de l'icône copiée des ANI, DLL, EXE ou ICL en BMP"},
+        {"CmdEditer", "Éditeur", "Appel de l'éditeur d'icônes"},
+        {"CmdPaint", "Dessin", "Appel de Paint (Windows)"},
+        {"CmdPressPap", "Presse-papiers", "Appel du presse-papiers"},
+        {"CmdAide", "Aide", "Appel de l'aide générale/Appel de l'aide sur le visualiseur"},
+        {"CmdCoulFond", "Couleur du fond",
+         "Couleur du fond de la fenêtre de visualisation/Fond de l'icône centrée"},
+        {"CmdIco48", "Icônes 48x48", "Icônes en 32x32 ou en 48x48"},
+    };
+    int i = 0;
+    for (const Command& command : commands) {
+        const QRect place(8 + (i % 2) * 103, 216 + (i / 2) * 20, 100, 19);
+        auto* button = addCommand(command.name, QString::fromUtf8(command.caption),
+                                  QString::fromUtf8(command.help), place);
+        // The commands of the centred icon and the outside tools work once they are ready.
+        button->setEnabled(false);
+        ++i;
+    }
+    auto* background = findChild<platform::GradientButton*>(QStringLiteral("CmdCoulFond"));
+    background->setEnabled(true);
+    connect(background, &QAbstractButton::clicked, this, [this] { chooseGridBackground(false); });
+    connect(background, &platform::GradientButton::rightPressed, this,
+            [this] { chooseGridBackground(true); });
+    auto* icons48 = findChild<platform::GradientButton*>(QStringLiteral("CmdIco48"));
+    icons48->setEnabled(true);
+    icons48->setText(shell::toggleCaption(QStringLiteral("Icônes 48x48"), preferences().icons48));
+    connect(icons48, &QAbstractButton::clicked, this, &FenPrin::switchView);
+}
+
+void FenPrin::buildGrid() {
+    m_count = new platform::GradientPanel(this);
+    m_count->setObjectName(QStringLiteral("NbrIco"));
+    m_count->setGeometry(219, 30, 264, 22);
+    m_fond = new IconGridView(m_grid, GridView::Icons32, this);
+    m_fond48 = new IconGridView(m_grid, GridView::Icons48, this);
+    for (IconGridView* view : {m_fond, m_fond48}) {
+        view->move(kGridPlace);
+        connect(view, &IconGridView::cellClicked, this, [this](int cell) {
+            move([this, cell] { m_grid.clickCell(cell); });
+        });
+        connect(view, &IconGridView::backgroundRightPressed, this, [this] {
+            hidePopUp();
+            for (IconGridView* v : {m_fond, m_fond48}) {
+                v->setBackground(0xD2D200);
+                v->centre().setBackground(0xD2D200);
+            }
+        });
+        connect(&view->centre(), &CentrePicture::doubleClicked, this, &FenPrin::reloadCentre);
+        connect(&view->centre(), &CentrePicture::rightPressed, this, &FenPrin::centreRightPressed);
+    }
+    m_path = new platform::GradientPanel(this);
+    m_path->setObjectName(QStringLiteral("Etiquette1"));
+    m_path->setGeometry(219, 324, 301, 35);
+    m_path->setWordWrap(true);
+}
+
+void FenPrin::buildMoves() {
+    auto* frame = new platform::GradientPanel(this);
+    frame->setObjectName(QStringLiteral("Forme2"));
+    frame->setGeometry(487, 30, 33, 290);
+    struct Move {
+        const char* name;
+        const char* help;
+        MovePicture picture;
+        QRect place;
+    };
+    const Move moves[] = {
+        {"DeplaceDebut", "Première icône du dossier", MovePicture::First, QRect(489, 58, 29, 44)},
+        {"DeplaceBas", "Page précédente/Ligne précédente (clic droit)", MovePicture::Previous,
+         QRect(489, 108, 29, 84)},
+        {"DeplaceHaut", "Page suivante/Ligne suivante (clic droit)", MovePicture::Next,
+         QRect(489, 198, 29, 84)},
+        {"DeplaceFin", "Dernière icône du dossier", MovePicture::Last, QRect(489, 288, 29, 30)},
+    };
+    for (const Move& m : moves) {
+        auto* button = addCommand(m.name, {}, QString::fromUtf8(m.help), m.place);
+        button->setPicture(movePicture(m.picture), Qt::AlignCenter);
+    }
+    auto button = [this](const char* name) {
+        return findChild<platform::GradientButton*>(QString::fromLatin1(name));
+    };
+    connect(button("DeplaceHaut"), &QAbstractButton::clicked, this,
+            [this] { move([this] { m_grid.pageNext(); }); });
+    connect(button("DeplaceHaut"), &platform::GradientButton::rightPressed, this,
+            [this] { move([this] { m_grid.lineNext(); }); });
+    connect(button("DeplaceBas"), &QAbstractButton::clicked, this,
+            [this] { move([this] { m_grid.pagePrevious(); }); });
+    connect(button("DeplaceBas"), &platform::GradientButton::rightPressed, this,
+            [this] { move([this] { m_grid.linePrevious(); }); });
+    connect(button("DeplaceDebut"), &QAbstractButton::clicked, this,
+            [this] { move([this] { m_grid.first(); }); });
+    connect(button("DeplaceFin"), &QAbstractButton::clicked, this,
+            [this] { move([this] { m_grid.last(); }); });
+}
+
+platform::GradientButton* FenPrin::addCommand(const char* name, const QString& caption,
+                                              const QString& help, const QRect& place) {
+    auto* button = new platform::GradientButton(caption, this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setGeometry(place);
+    platform::setHelpText(*button, help);
+    return button;
+}
+
+void FenPrin::setCommandReady(const QString& name) {
+    m_ready.insert(name);
+    if (auto* button = findChild<platform::GradientButton*>(name)) {
+        const bool fileCommand = std::any_of(std::begin(kFileCommands), std::end(kFileCommands),
+                                             [&](const char* c) { return name == QLatin1String(c); });
+        button->setEnabled(!fileCommand || m_grid.count() > 0);
+    }
+}
+
+QString FenPrin::countText() const {
+    return m_count->text();
+}
+
+QString FenPrin::pathText() const {
+    return m_path->text();
+}
+
+void FenPrin::applyColours() {
+    const shell::ColourScheme& colours = preferences().colours;
+    const auto start = colours[SchemeColour::GradientStart];
+    const auto end = colours[SchemeColour::GradientEnd];
+    const auto viewing = colours[SchemeColour::Viewing];
+    const auto other = colours[SchemeColour::OtherText];
+    platform::setBackground(*this, colours[SchemeColour::WindowBackground]);
+    static const QSet<QString> titled{QStringLiteral("CmdDeplaceFen"), QStringLiteral("CmdReduire"),
+                                      QStringLiteral("CmdFermer")};
+    for (auto* button : findChildren<platform::GradientButton*>(Qt::FindDirectChildrenOnly)) {
+        button->setStartColour(start);
+        button->setEndColour(end);
+        if (titled.contains(button->objectName())) {
+            button->setTextColour(colours[SchemeColour::ButtonText]);
+            button->setLightColour(colours[SchemeColour::ButtonLight]);
+        }
+        if (button->objectName() == QLatin1String("CmdApropos"))
+            button->setLightColour(colours[SchemeColour::ButtonLight]);
+    }
+    for (auto* panel : findChildren<platform::GradientPanel*>(Qt::FindDirectChildrenOnly))
+        panel->setColours(start, end);
+    m_count->setTextColour(colours[SchemeColour::ButtonText]);
+    m_path->setTextColour(other);
+    m_popUp->applyColours(colours);
+    for (QWidget* list : {static_cast<QWidget*>(m_drives), static_cast<QWidget*>(m_folders)}) {
+        QPalette palette = list->palette();
+        for (auto role : {QPalette::Base, QPalette::Window, QPalette::Button})
+            palette.setColor(role, platform::toQColor(viewing));
+        for (auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+            palette.setColor(role, platform::toQColor(other));
+        list->setPalette(palette);
+    }
+    for (IconGridView* view : {m_fond, m_fond48}) {
+        view->setBackground(viewing);
+        view->centre().setBackground(viewing);
+    }
+}
+
+void FenPrin::changeEvent(QEvent* event) {
+    // The tips window may have changed the tips flag while this window was not active.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_popUp->refreshCaptions();
+    QWidget::changeEvent(event);
+}
+
+void FenPrin::openFolder(const QString& folder) {
+    const QString clean = QDir::cleanPath(QDir(folder).absolutePath());
+    const ScanResult result = QFileInfo(clean).isDir() ? m_grid.openFolder(clean)
+                                                       : ScanResult::FolderMissing;
+    if (result == ScanResult::FolderMissing) {
+        showFolderMissing();
+        return;
+    }
+    m_folder = clean;
+    fillFolderList(clean);
+    const int drive = m_drives->findData(volumeOf(clean, m_volumes));
+    if (drive >= 0)
+        m_drives->setCurrentIndex(drive);
+    showScanResult(result);
+}
+
+void FenPrin::showFolderMissing() {
+    platform::Message message;
+    message.title = QStringLiteral("Chemin d'accès introuvable");
+    message.text = QStringLiteral("Vous avez probablement supprimé ce dossier depuis "
+                                  "l'Explorateur.\nCliquez sur un nom de dossier valide.");
+    message.icon = platform::MessageIcon::Exclamation;
+    platform::dialogs().message(message);
+}
+
+void FenPrin::fillFolderList(const QString& folder) {
+    m_folders->clear();
+    const auto items = folderItems(folder);
+    for (const FolderItem& entry : items) {
+        auto* item = new QListWidgetItem(
+            style()->standardIcon(entry.open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon),
+            entry.name, m_folders);
+        item->setData(kDepthRole, entry.depth);
+        item->setData(kPathRole, entry.path);
+    }
+    m_folders->setCurrentRow(currentItem(items));
+    m_folders->scrollToItem(m_folders->currentItem());
+}
+
+void FenPrin::folderItemClicked(QListWidgetItem* item) {
+    hidePopUp();
+    if (item != nullptr)
+        openFolder(item->data(kPathRole).toString());
+}
+
+void FenPrin::driveChosen(int index) {
+    hidePopUp();
+    if (index >= 0)
+        openFolder(m_drives->itemData(index).toString());
+}
+
+void FenPrin::reactualiser() {
+    showScanResult(m_grid.refresh());
+}
+
+void FenPrin::showScanResult(ScanResult result) {
+    switch (result) {
+    case ScanResult::FolderMissing:
+        // The folder went away under the list: say so, and keep what the grid showed.
+        showFolderMissing();
+        return;
+    case ScanResult::Empty:
+        clearGrid();
+        return;
+    case ScanResult::Listed:
+        displayGrid();
+        return;
+    }
+}
+
+void FenPrin::clearGrid() {
+    m_fond->update();
+    m_fond48->update();
+    m_fond->centre().update();
+    m_fond48->centre().update();
+    m_path->setText(m_grid.pathText());
+    m_count->setText(m_grid.countText());
+    enableCommands(false);
+}
+
+void FenPrin::displayGrid() {
+    const bool complete = m_grid.loadPage();
+    for (IconGridView* view : {m_fond, m_fond48}) {
+        view->update();
+        view->centre().update();
+    }
+    if (!complete) {
+        showFileMissing();
+        return;
+    }
+    if (m_grid.count() > 0) {
+        m_path->setText(m_grid.pathText());
+        m_count->setText(m_grid.countText());
+        enableCommands(true);
+    }
+}
+
+void FenPrin::showFileMissing() {
+    platform::Message message;
+    message.title = QStringLiteral("Fichier non trouvé");
+    message.text = QStringLiteral("Vous avez probablement supprimé une icône depuis l'Explorateur.\n"
+                                  "Cliquez sur le nom du dossier ouvert pour réactualiser la "
+                                  "fenêtre d'affichage.");
+    message.icon = platform::MessageIcon::Exclamation;
+    platform::dialogs().message(message);
+}
+
+void FenPrin::enableCommands(bool on) {
+    auto enable = [&](const char* name) {
+        const QString objectName = QString::fromLatin1(name);
+        if (auto* button = findChild<platform::GradientButton*>(objectName))
+            button->setEnabled(on && m_ready.contains(objectName));
+    };
+    std::for_each(std::begin(kFileCommands), std::end(kFileCommands), enable);
+    std::for_each(std::begin(kMoveCommands), std::end(kMoveCommands), enable);
+}
+
+void FenPrin::move(const std::function<void()>& step) {
+    hidePopUp();
+    step();
+    displayGrid();
+}
+
+void FenPrin::switchView() {
+    hidePopUp();
+    shell::Settings settings;
+    preferences().setIcons48(settings, !preferences().icons48);
+    findChild<platform::GradientButton*>(QStringLiteral("CmdIco48"))
+        ->setText(shell::toggleCaption(QStringLiteral("Icônes 48x48"), preferences().icons48));
+    const ScanResult result = m_grid.switchView();
+    placeGrids();
+    showScanResult(result);
+}
+
+void FenPrin::placeGrids() {
+    m_fond48->setVisible(m_grid.view() == GridView::Icons48);
+    if (m_fond48->isVisible())
+        m_fond48->move(kGridPlace);
+}
+
+void FenPrin::reloadCentre() {
+    hidePopUp();
+    if (!m_grid.reloadCentre())
+        showFileMissing();
+    m_fond->centre().update();
+    m_fond48->centre().update();
+}
+
+void FenPrin::centreRightPressed() {
+    hidePopUp();
+    const IconEntry* centred = m_grid.centred();
+    // The editor comes with its own window; until it is there the right button does nothing.
+    if (centred == nullptr || !m_showEditor)
+        return;
+    shell::appState().iconToEdit = centred->file;
+    platform::sound().playClick();
+    m_showEditor();
+}
+
+void FenPrin::chooseGridBackground(bool centre) {
+    hidePopUp();
+    IconGridView* view = m_grid.view() == GridView::Icons48 ? m_fond48 : m_fond;
+    const icon::Colour initial = centre ? view->centre().background() : view->background();
+    const auto chosen = platform::dialogs().chooseColour(initial);
+    if (!chosen)
+        return;
+    if (centre)
+        view->centre().setBackground(*chosen);
+    else
+        view->setBackground(*chosen);
+}
+
+void FenPrin::hidePopUp() {
+    m_popUp->hide();
+}
+
+void FenPrin::togglePopUp() {
+    if (m_popUp->isVisible()) {
+        m_popUp->hide();
+        return;
+    }
+    m_popUp->move(kPopUpPlace);
+    m_popUp->refreshCaptions();
+    m_popUp->show();
+    m_popUp->raise();
+}
+
+} // namespace browser::ui
