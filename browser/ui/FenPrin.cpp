@@ -185,7 +185,7 @@ void FenPrin::buildGrid() {
     for (IconGridView* view : {m_fond, m_fond48}) {
         view->move(kGridPlace);
         connect(view, &IconGridView::cellClicked, this, [this](int cell) {
-            move([this, cell] { m_grid.clickCell(cell); });
+            moveIndex([this, cell] { m_grid.clickCell(cell); });
         });
         connect(view, &IconGridView::backgroundRightPressed, this, [this] {
             hidePopUp();
@@ -229,17 +229,17 @@ void FenPrin::buildMoves() {
         return findChild<platform::GradientButton*>(QString::fromLatin1(name));
     };
     connect(button("DeplaceHaut"), &QAbstractButton::clicked, this,
-            [this] { move([this] { m_grid.pageNext(); }); });
+            [this] { moveIndex([this] { m_grid.pageNext(); }); });
     connect(button("DeplaceHaut"), &platform::GradientButton::rightPressed, this,
-            [this] { move([this] { m_grid.lineNext(); }); });
+            [this] { moveIndex([this] { m_grid.lineNext(); }); });
     connect(button("DeplaceBas"), &QAbstractButton::clicked, this,
-            [this] { move([this] { m_grid.pagePrevious(); }); });
+            [this] { moveIndex([this] { m_grid.pagePrevious(); }); });
     connect(button("DeplaceBas"), &platform::GradientButton::rightPressed, this,
-            [this] { move([this] { m_grid.linePrevious(); }); });
+            [this] { moveIndex([this] { m_grid.linePrevious(); }); });
     connect(button("DeplaceDebut"), &QAbstractButton::clicked, this,
-            [this] { move([this] { m_grid.first(); }); });
+            [this] { moveIndex([this] { m_grid.first(); }); });
     connect(button("DeplaceFin"), &QAbstractButton::clicked, this,
-            [this] { move([this] { m_grid.last(); }); });
+            [this] { moveIndex([this] { m_grid.last(); }); });
 }
 
 platform::GradientButton* FenPrin::addCommand(const char* name, const QString& caption,
@@ -430,7 +430,7 @@ void FenPrin::enableCommands(bool on) {
     std::for_each(std::begin(kMoveCommands), std::end(kMoveCommands), enable);
 }
 
-void FenPrin::move(const std::function<void()>& step) {
+void FenPrin::moveIndex(const std::function<void()>& step) {
     hidePopUp();
     step();
     displayGrid();

@@ -68,7 +68,7 @@ private:
     void displayGrid();
     void clearGrid();
     void enableCommands(bool on);
-    void move(const std::function<void()>& step);
+    void moveIndex(const std::function<void()>& step);
     void fillFolderList(const QString& folder);
     void folderItemClicked(QListWidgetItem* item);
     void driveChosen(int index);
