@@ -19,7 +19,7 @@
 
 namespace shell::ui {
 
-Conseils::Conseils(QWidget* parent, std::function<double()> random)
+Conseils::Conseils(QWidget* parent, std::function<double()> random, const QString& tipsFile)
     : QDialog(parent)
     , m_random(std::move(random)) {
     setObjectName(QStringLiteral("Conseils"));
@@ -78,7 +78,7 @@ Conseils::Conseils(QWidget* parent, std::function<double()> random)
             std::chrono::system_clock::now().time_since_epoch().count()));
         m_random = [engine] { return std::uniform_real_distribution<double>(0.0, 1.0)(*engine); };
     }
-    loadTips(DataFiles::find(QString::fromUtf8(Tips::kFileName)));
+    loadTips(tipsFile.isEmpty() ? DataFiles::find(QString::fromUtf8(Tips::kFileName)) : tipsFile);
 }
 
 QString Conseils::tipText() const {

@@ -16,8 +16,10 @@ namespace shell::ui {
 class Conseils : public QDialog {
     Q_OBJECT
 public:
-    // `random` gives numbers in [0, 1) for the first tip; by default seeded from the clock.
-    explicit Conseils(QWidget* parent = nullptr, std::function<double()> random = {});
+    // `random` gives numbers in [0, 1) for the first tip, by default seeded from the clock;
+    // `tipsFile` is the program's "Conseils.txt" unless another file is given.
+    explicit Conseils(QWidget* parent = nullptr, std::function<double()> random = {},
+                      const QString& tipsFile = {});
 
     const Tips& tips() const { return m_tips; }
     QString tipText() const;
