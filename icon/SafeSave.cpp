@@ -25,17 +25,17 @@ SaveResult saveFileSafely(const QString& path, std::span<const std::uint8_t> con
     const QFileInfo folder(target.absolutePath());
     if (!folder.isDir())
         return failure(SaveError::FolderMissing,
-                       QStringLiteral("Le dossier de « %1 » n'existe pas."), path);
+                       QStringLiteral("le dossier de « %1 » n'existe pas."), path);
     if (target.exists() && (!target.isFile() || !target.isWritable()))
         return failure(SaveError::NotWritable,
-                       QStringLiteral("Le fichier « %1 » est protégé en écriture."), path);
+                       QStringLiteral("le fichier « %1 » est protégé en écriture."), path);
 
     std::vector<std::uint8_t> tail;
     if (keepTail && target.exists()) {
         const std::optional<std::vector<std::uint8_t>> old = readFileBytes(path);
         if (!old)
             return failure(SaveError::NotWritable,
-                           QStringLiteral("Impossible de lire le fichier « %1 »."), path);
+                           QStringLiteral("impossible de lire le fichier « %1 »."), path);
         if (old->size() > content.size())
             tail.assign(old->begin() + static_cast<std::ptrdiff_t>(content.size()), old->end());
     }
@@ -45,7 +45,7 @@ SaveResult saveFileSafely(const QString& path, std::span<const std::uint8_t> con
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return failure(SaveError::NotWritable,
-                       QStringLiteral("Impossible d'écrire dans le dossier de « %1 »."), path);
+                       QStringLiteral("impossible d'écrire dans le dossier de « %1 »."), path);
     const auto write = [&file](std::span<const std::uint8_t> bytes) {
         return bytes.empty() ||
                file.write(reinterpret_cast<const char*>(bytes.data()),
@@ -55,12 +55,12 @@ SaveResult saveFileSafely(const QString& path, std::span<const std::uint8_t> con
         file.cancelWriting();
         file.commit();
         return failure(SaveError::WriteFailed,
-                       QStringLiteral("L'écriture de « %1 » a échoué ; le fichier n'a pas changé."),
+                       QStringLiteral("l'écriture de « %1 » a échoué ; le fichier n'a pas changé."),
                        path);
     }
     if (!file.commit())
         return failure(SaveError::WriteFailed,
-                       QStringLiteral("L'écriture de « %1 » a échoué ; le fichier n'a pas changé."),
+                       QStringLiteral("l'écriture de « %1 » a échoué ; le fichier n'a pas changé."),
                        path);
     return {};
 }
