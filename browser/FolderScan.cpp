@@ -42,25 +42,29 @@ std::optional<std::vector<IconEntry>> scanIconFolder(const QString& folder) {
     DIR* dir = ::opendir(encoded.constData());
     if (dir == nullptr)
         return std::nullopt;
-    std::vector<QString> names;
+    // Each name with its lower-cased form: the order and the shown path both come from it.
+    std::vector<std::pair<QString, QString>> names;
     while (const dirent* entry = ::readdir(dir)) {
         const std::size_t length = std::strlen(entry->d_name);
-        if (hasIcoSuffix(entry->d_name, length) && isRegularFile(encoded, entry))
-            names.push_back(QFile::decodeName(QByteArray(entry->d_name, length)));
+        if (hasIcoSuffix(entry->d_name, length) && isRegularFile(encoded, entry)) {
+            QString name = QFile::decodeName(
+                QByteArray::fromRawData(entry->d_name, static_cast<qsizetype>(length)));
+            QString lower = name.toLower();
+            names.emplace_back(std::move(name), std::move(lower));
+        }
     }
     ::closedir(dir);
 
     // Folders always looked sorted by name to this program's users, whatever the file system does.
-    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-        const int order = a.compare(b, Qt::CaseInsensitive);
-        return order != 0 ? order < 0 : a < b;
+    std::sort(names.begin(), names.end(), [](const auto& a, const auto& b) {
+        return a.second != b.second ? a.second < b.second : a.first < b.first;
     });
 
     const QString shownBase = base.toLower();
     std::vector<IconEntry> entries;
     entries.reserve(names.size());
-    for (const QString& name : names)
-        entries.push_back({base + name, shownBase + name.toLower()});
+    for (const auto& [name, lower] : names)
+        entries.push_back({base + name, shownBase + lower});
     return entries;
 }
 

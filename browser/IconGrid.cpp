@@ -85,15 +85,16 @@ QString IconGrid::countText() const {
     const int total = count();
     if (total == 0)
         return QStringLiteral("Dossier vide...");
-    return QString::number(total) + (total == 1 ? QStringLiteral(" icône") : QStringLiteral(" icônes"));
+    return QString::number(total) +
+           (total == 1 ? QStringLiteral(" icône") : QStringLiteral(" icônes"));
 }
 
 Thumbnail IconGrid::load(const IconEntry& entry) const {
     Thumbnail thumbnail;
     const auto bytes = icon::readFileBytes(entry.file);
     if (!bytes) {
-        thumbnail.state =
-            QFileInfo::exists(entry.file) ? Thumbnail::State::Unreadable : Thumbnail::State::Missing;
+        thumbnail.state = QFileInfo::exists(entry.file) ? Thumbnail::State::Unreadable
+                                                        : Thumbnail::State::Missing;
         return thumbnail;
     }
     auto bitmap = m_provider.decode(*bytes, geometry().cellSize);
@@ -127,7 +128,8 @@ const Thumbnail* IconGrid::cell(int cell) const {
     const auto index = entryOfCell(cell);
     if (!index)
         return nullptr;
-    const auto found = m_cache.constFind(state().entries[static_cast<std::size_t>(*index - 1)].file);
+    const auto found =
+        m_cache.constFind(state().entries[static_cast<std::size_t>(*index - 1)].file);
     return found == m_cache.constEnd() ? nullptr : &found.value();
 }
 

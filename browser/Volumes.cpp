@@ -9,10 +9,10 @@ namespace browser {
 namespace {
 
 bool isSystemMount(const QString& root, const QByteArray& type) {
-    static const char* const hiddenTypes[] = {"proc",   "sysfs",   "devtmpfs", "devpts", "cgroup",
-                                              "cgroup2", "squashfs", "overlay", "autofs", "mqueue",
-                                              "debugfs", "tracefs", "securityfs", "pstore", "bpf",
-                                              "fusectl", "configfs", "hugetlbfs", "binfmt_misc"};
+    static const char* const hiddenTypes[] = {
+        "proc",    "sysfs",   "devtmpfs", "devpts",    "cgroup",     "cgroup2",    "squashfs",
+        "overlay", "autofs",  "mqueue",   "debugfs",   "tracefs",    "securityfs", "pstore",
+        "bpf",     "fusectl", "configfs", "hugetlbfs", "binfmt_misc"};
     if (root == QLatin1String("/"))
         return false;
     for (const char* hidden : hiddenTypes) {
@@ -55,8 +55,8 @@ std::vector<Volume> mountedVolumes() {
 QString volumeOf(const QString& folder, const std::vector<Volume>& volumes) {
     QString best = QStringLiteral("/");
     for (const Volume& volume : volumes) {
-        const QString root = volume.root.endsWith(QLatin1Char('/')) ? volume.root
-                                                                    : volume.root + QLatin1Char('/');
+        const QString root =
+            volume.root.endsWith(QLatin1Char('/')) ? volume.root : volume.root + QLatin1Char('/');
         const QString path = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
         if (path.startsWith(root) && volume.root.size() > best.size())
             best = volume.root;

@@ -10,7 +10,9 @@ namespace browser {
 struct Volume {
     QString root;  // mount point, "/" first
     QString label; // the volume's name, may be empty
-    QString text() const { return label.isEmpty() ? root : root + QStringLiteral(" [") + label + QLatin1Char(']'); }
+    QString text() const {
+        return label.isEmpty() ? root : root + QStringLiteral(" [") + label + QLatin1Char(']');
+    }
 };
 
 // The mounted volumes a user keeps files on: the root, then the others by mount point. Kernel

@@ -13,7 +13,8 @@ namespace platform {
 namespace {
 
 std::uint32_t le32(const std::vector<std::uint8_t>& b, std::size_t at) {
-    return b[at] | (b[at + 1] << 8) | (b[at + 2] << 16) | (static_cast<std::uint32_t>(b[at + 3]) << 24);
+    return b[at] | (b[at + 1] << 8) | (b[at + 2] << 16) |
+           (static_cast<std::uint32_t>(b[at + 3]) << 24);
 }
 
 std::uint16_t le16(const std::vector<std::uint8_t>& b, std::size_t at) {
@@ -32,8 +33,8 @@ void play(const AlsaSound::Wave& wave, std::atomic<bool>& playing) {
         if (snd_pcm_set_params(pcm, SND_PCM_FORMAT_S16_LE, SND_PCM_ACCESS_RW_INTERLEAVED,
                                static_cast<unsigned>(wave.channels),
                                static_cast<unsigned>(wave.rate), 1, 100000) == 0) {
-            const auto frames =
-                static_cast<snd_pcm_uframes_t>(wave.samples.size() / static_cast<std::size_t>(wave.channels));
+            const auto frames = static_cast<snd_pcm_uframes_t>(
+                wave.samples.size() / static_cast<std::size_t>(wave.channels));
             const snd_pcm_sframes_t written = snd_pcm_writei(pcm, wave.samples.data(), frames);
             if (written < 0)
                 snd_pcm_recover(pcm, static_cast<int>(written), 1);

@@ -57,16 +57,16 @@ void GradientButton::setPicture(const QPixmap& picture, Qt::Alignment alignment)
 
 QSize GradientButton::sizeHint() const {
     const QSize textSize = fontMetrics().size(Qt::TextSingleLine, text());
-    return {textSize.width() + m_picture.width() + 16, std::max(textSize.height(), m_picture.height()) + 8};
+    return {textSize.width() + m_picture.width() + 16,
+            std::max(textSize.height(), m_picture.height()) + 8};
 }
 
 void GradientButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     const bool sunken = isDown();
-    QLinearGradient gradient(area.topLeft(), m_direction == Direction::Vertical
-                                                 ? area.bottomLeft()
-                                                 : area.topRight());
+    QLinearGradient gradient(area.topLeft(), m_direction == Direction::Vertical ? area.bottomLeft()
+                                                                                : area.topRight());
     // Pressed, the gradient turns over, as if the button went in.
     gradient.setColorAt(0, toQColor(sunken ? m_end : m_start));
     gradient.setColorAt(1, toQColor(sunken ? m_start : m_end));

@@ -47,8 +47,13 @@ void GradientPanel::paintEvent(QPaintEvent*) {
     if (m_text.isEmpty())
         return;
     painter.setPen(toQColor(m_textColour));
-    const int flags = static_cast<int>(m_alignment) | (m_wordWrap ? Qt::TextWrapAnywhere : 0);
-    painter.drawText(rect().adjusted(6, 2, -6, -2), flags, m_text);
+    QString shown = m_text;
+    if (m_wordWrap) {
+        // Long paths break after their slashes rather than in the middle of a name.
+        shown.replace(QLatin1Char('/'), QStringLiteral("/\u200B"));
+    }
+    const int flags = static_cast<int>(m_alignment) | (m_wordWrap ? Qt::TextWordWrap : 0);
+    painter.drawText(rect().adjusted(6, 2, -6, -2), flags, shown);
 }
 
 } // namespace platform

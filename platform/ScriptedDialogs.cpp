@@ -121,7 +121,7 @@ QString ScriptedDialogs::runModal(QDialog& window) {
     QCoreApplication::processEvents();
     const auto step = take();
     if (step && std::holds_alternative<ModalScript>(*step))
-        std::get<ModalScript>(*step)(window);
+        std::get<ModalScript> (*step)(window);
     if (window.isVisible())
         window.reject();
     QCoreApplication::processEvents();

@@ -58,7 +58,8 @@ private:
     struct FolderAnswer {
         QString path;
     };
-    using Step = std::variant<Cancelled, Answer, FileChoice, FolderAnswer, icon::Colour, ModalScript>;
+    using Step =
+        std::variant<Cancelled, Answer, FileChoice, FolderAnswer, icon::Colour, ModalScript>;
 
     std::optional<Step> take();
     std::optional<FileChoice> file(Asked::Kind kind, const FileRequest& request);

@@ -20,8 +20,9 @@ QString lockFolder() {
 } // namespace
 
 SingleInstance::SingleInstance(const QString& name)
-    : m_path(QDir(lockFolder()).filePath(name + QLatin1Char('-') + QString::number(::getuid()) +
-                                          QStringLiteral(".lock")))
+    : m_path(QDir(lockFolder())
+                 .filePath(name + QLatin1Char('-') + QString::number(::getuid()) +
+                           QStringLiteral(".lock")))
     , m_lock(m_path) {
     m_lock.setStaleLockTime(0); // only a dead owner makes a lock stale, never its age
     m_held = m_lock.tryLock(0);

@@ -26,7 +26,9 @@ struct ColourScheme {
     icon::Colour operator[](SchemeColour which) const {
         return colours[static_cast<std::size_t>(which)];
     }
-    icon::Colour& operator[](SchemeColour which) { return colours[static_cast<std::size_t>(which)]; }
+    icon::Colour& operator[](SchemeColour which) {
+        return colours[static_cast<std::size_t>(which)];
+    }
     bool operator==(const ColourScheme&) const = default;
 
     static constexpr ColourScheme defaults() {
@@ -37,8 +39,8 @@ struct ColourScheme {
 
 // In the order the pop-up panel lists them.
 inline constexpr std::array<SchemeColour, kSchemeColourCount> kAllSchemeColours{
-    SchemeColour::GradientStart, SchemeColour::GradientEnd,      SchemeColour::ButtonText,
-    SchemeColour::ButtonLight,   SchemeColour::OtherText,        SchemeColour::WindowBackground,
+    SchemeColour::GradientStart, SchemeColour::GradientEnd, SchemeColour::ButtonText,
+    SchemeColour::ButtonLight,   SchemeColour::OtherText,   SchemeColour::WindowBackground,
     SchemeColour::Viewing};
 
 } // namespace shell

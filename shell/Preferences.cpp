@@ -5,12 +5,12 @@ namespace shell {
 namespace {
 
 const SettingKey* const kReadKeys[kSchemeColourCount] = {
-    &keys::kGradientStart,    &keys::kGradientEnd, &keys::kButtonText, &keys::kButtonLightRead,
-    &keys::kOtherText,        &keys::kWindowBackground, &keys::kViewing};
+    &keys::kGradientStart, &keys::kGradientEnd,      &keys::kButtonText, &keys::kButtonLightRead,
+    &keys::kOtherText,     &keys::kWindowBackground, &keys::kViewing};
 
 const SettingKey* const kWrittenKeys[kSchemeColourCount] = {
-    &keys::kGradientStart,    &keys::kGradientEnd, &keys::kButtonText, &keys::kButtonLightWritten,
-    &keys::kOtherText,        &keys::kWindowBackground, &keys::kViewing};
+    &keys::kGradientStart, &keys::kGradientEnd,      &keys::kButtonText, &keys::kButtonLightWritten,
+    &keys::kOtherText,     &keys::kWindowBackground, &keys::kViewing};
 
 } // namespace
 

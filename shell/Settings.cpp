@@ -96,7 +96,7 @@ icon::Colour Settings::parseColour(const QString& text, icon::Colour fallback) {
     if (!ok || number < INT32_MIN || number > UINT32_MAX)
         return fallback;
     // A colour is 24 bits; the high byte of a signed 32-bit value never holds a colour.
-    return static_cast<icon::Colour>(static_cast<quint32>(number) & 0xFFFFFFu) ;
+    return static_cast<icon::Colour>(static_cast<quint32>(number) & 0xFFFFFFu);
 }
 
 } // namespace shell

@@ -116,7 +116,8 @@ void FenPrin::buildLists() {
     m_drives->setGeometry(8, 34, 203, 22);
     m_volumes = mountedVolumes();
     for (const Volume& volume : m_volumes)
-        m_drives->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon), volume.text(), volume.root);
+        m_drives->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon), volume.text(),
+                          volume.root);
     connect(m_drives, &QComboBox::activated, this, &FenPrin::driveChosen);
 
     m_folders = new QListWidget(this);
@@ -145,7 +146,8 @@ void FenPrin::buildCommands() {
         {"CmdCopImg", "Copier l'image", "Copie l'icône dans le presse-papiers"},
         {"CmdIcoBmp", "ICO en BMP", "Transformation de l'icône en BMP"},
         {"CmdVisuBmp", "Voir un BMP", "Visualisation des fichiers BMP"},
-        {"CmdDLL", "Icônes des DLL", "Affichage des icônes contenues dans les fichiers ANI, DLL, EXE ou ICL"},
+        {"CmdDLL", "Icônes des DLL",
+         "Affichage des icônes contenues dans les fichiers ANI, DLL, EXE ou ICL"},
         {"CmdIcoBmpDLL", "Extraite en BMP",
          "Transformation de l'icône copiée des ANI, DLL, EXE ou ICL en BMP"},
         {"CmdEditer", "Éditeur", "Appel de l'éditeur d'icônes"},
@@ -184,9 +186,8 @@ void FenPrin::buildGrid() {
     m_fond48 = new IconGridView(m_grid, GridView::Icons48, this);
     for (IconGridView* view : {m_fond, m_fond48}) {
         view->move(kGridPlace);
-        connect(view, &IconGridView::cellClicked, this, [this](int cell) {
-            moveIndex([this, cell] { m_grid.clickCell(cell); });
-        });
+        connect(view, &IconGridView::cellClicked, this,
+                [this](int cell) { moveIndex([this, cell] { m_grid.clickCell(cell); }); });
         connect(view, &IconGridView::backgroundRightPressed, this, [this] {
             hidePopUp();
             for (IconGridView* v : {m_fond, m_fond48}) {
@@ -254,8 +255,9 @@ platform::GradientButton* FenPrin::addCommand(const char* name, const QString& c
 void FenPrin::setCommandReady(const QString& name) {
     m_ready.insert(name);
     if (auto* button = findChild<platform::GradientButton*>(name)) {
-        const bool fileCommand = std::any_of(std::begin(kFileCommands), std::end(kFileCommands),
-                                             [&](const char* c) { return name == QLatin1String(c); });
+        const bool fileCommand =
+            std::any_of(std::begin(kFileCommands), std::end(kFileCommands),
+                        [&](const char* c) { return name == QLatin1String(c); });
         button->setEnabled(!fileCommand || m_grid.count() > 0);
     }
 }
@@ -313,12 +315,15 @@ void FenPrin::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
 }
 
-void FenPrin::openFolder(const QString& folder) {
+void FenPrin::openFolder(const QString& folder, MissingFolder report) {
     const QString clean = QDir::cleanPath(QDir(folder).absolutePath());
-    const ScanResult result = QFileInfo(clean).isDir() ? m_grid.openFolder(clean)
-                                                       : ScanResult::FolderMissing;
+    const ScanResult result =
+        QFileInfo(clean).isDir() ? m_grid.openFolder(clean) : ScanResult::FolderMissing;
     if (result == ScanResult::FolderMissing) {
-        showFolderMissing();
+        if (report == MissingFolder::Report)
+            showFolderMissing();
+        else
+            m_drives->setCurrentIndex(m_drives->findData(volumeOf(m_folder, m_volumes)));
         return;
     }
     m_folder = clean;
@@ -360,8 +365,9 @@ void FenPrin::folderItemClicked(QListWidgetItem* item) {
 
 void FenPrin::driveChosen(int index) {
     hidePopUp();
+    // A drive that cannot be read leaves the folder list where it was, without a word.
     if (index >= 0)
-        openFolder(m_drives->itemData(index).toString());
+        openFolder(m_drives->itemData(index).toString(), MissingFolder::KeepQuiet);
 }
 
 void FenPrin::reactualiser() {
@@ -413,9 +419,10 @@ void FenPrin::displayGrid() {
 void FenPrin::showFileMissing() {
     platform::Message message;
     message.title = QStringLiteral("Fichier non trouvé");
-    message.text = QStringLiteral("Vous avez probablement supprimé une icône depuis l'Explorateur.\n"
-                                  "Cliquez sur le nom du dossier ouvert pour réactualiser la "
-                                  "fenêtre d'affichage.");
+    message.text =
+        QStringLiteral("Vous avez probablement supprimé une icône depuis l'Explorateur.\n"
+                       "Cliquez sur le nom du dossier ouvert pour réactualiser la "
+                       "fenêtre d'affichage.");
     message.icon = platform::MessageIcon::Exclamation;
     platform::dialogs().message(message);
 }

@@ -33,8 +33,10 @@ public:
     explicit FenPrin(const ThumbnailProvider& provider, QWidget* parent = nullptr);
     ~FenPrin() override;
 
-    // Opens a folder as a click in the folder list does (the start-up folder, tests).
-    void openFolder(const QString& folder);
+    enum class MissingFolder { Report, KeepQuiet };
+    // Opens a folder as a click in the folder list does (the start-up folder, tests). A folder
+    // that cannot be read is reported, or passed over in silence as a drive that cannot be read.
+    void openFolder(const QString& folder, MissingFolder report = MissingFolder::Report);
     // The scan of the folder shown, keeping the index (after a copy, rename or delete).
     void reactualiser();
     // Applies the interface colours to every control of the window.

@@ -23,7 +23,8 @@ IconGridView::IconGridView(const IconGrid& grid, GridView view, QWidget* parent)
     setFixedSize(geometry.panelSide(), geometry.panelSide());
     m_centre = new CentrePicture(grid, view, this);
     const int margin = (geometry.pitch - geometry.cellSize) / 2;
-    m_centre->move(geometry.cellX(geometry.centre) - margin, geometry.cellY(geometry.centre) - margin);
+    m_centre->move(geometry.cellX(geometry.centre) - margin,
+                   geometry.cellY(geometry.centre) - margin);
 }
 
 void IconGridView::setBackground(icon::Colour colour) {

@@ -18,13 +18,16 @@ constexpr int kRowPitch = 22;
 constexpr int kMargin = 6;
 
 const char* const kColourButtonNames[shell::kSchemeColourCount] = {
-    "CmdCoulDeb", "CmdCoulFin", "CmdCoulTxt", "CmdLumiere", "CmdAutrTxt", "CmdCoulFondFen",
-    "CmdCoulVisu"};
+    "CmdCoulDeb", "CmdCoulFin",     "CmdCoulTxt", "CmdLumiere",
+    "CmdAutrTxt", "CmdCoulFondFen", "CmdCoulVisu"};
 
-const char* const kColourCaptions[shell::kSchemeColourCount] = {
-    "Début du dégradé", "Fin du dégradé",    "Texte des boutons",
-    "Lumière des boutons", "Autres textes", "Fond des fenêtres",
-    "Visualisation, dossiers, etc."};
+const char* const kColourCaptions[shell::kSchemeColourCount] = {"Début du dégradé",
+                                                                "Fin du dégradé",
+                                                                "Texte des boutons",
+                                                                "Lumière des boutons",
+                                                                "Autres textes",
+                                                                "Fond des fenêtres",
+                                                                "Visualisation, dossiers, etc."};
 
 shell::Preferences& preferences() {
     return shell::appState().preferences;
@@ -49,8 +52,10 @@ PopUpInfos::PopUpInfos(QWidget* parent)
     m_label = label;
 
     for (shell::SchemeColour which : shell::kAllSchemeColours) {
-        auto* button = addButton(kColourButtonNames[static_cast<int>(which)], colourCaption(which), row++);
-        platform::setHelpText(*button, QStringLiteral("Changer la couleur : ") + colourCaption(which));
+        auto* button =
+            addButton(kColourButtonNames[static_cast<int>(which)], colourCaption(which), row++);
+        platform::setHelpText(*button,
+                              QStringLiteral("Changer la couleur : ") + colourCaption(which));
         connect(button, &QAbstractButton::clicked, this, [this, which] { chooseColour(which); });
         m_colourButtons[static_cast<std::size_t>(which)] = button;
     }
@@ -66,8 +71,8 @@ PopUpInfos::PopUpInfos(QWidget* parent)
     connect(tips, &QAbstractButton::clicked, this, &PopUpInfos::toggleTips);
 
     auto* remove = addButton("CmdSupprCle", QStringLiteral("Supprimer les réglages..."), row++);
-    platform::setHelpText(*remove,
-                          QStringLiteral("Effacer tous les réglages avant de désinstaller le programme"));
+    platform::setHelpText(
+        *remove, QStringLiteral("Effacer tous les réglages avant de désinstaller le programme"));
     connect(remove, &QAbstractButton::clicked, this, &PopUpInfos::removeSettings);
 
     auto* close = addButton("CmdFerMnu", QStringLiteral("Fermer ce menu"), row++);
@@ -111,7 +116,8 @@ void PopUpInfos::applyColours(const shell::ColourScheme& colours) {
 void PopUpInfos::refreshCaptions() {
     const shell::Preferences& prefs = preferences();
     findChild<platform::GradientButton*>(QStringLiteral("CmdBulAide"))
-        ->setText(shell::toggleCaption(QStringLiteral("Affichage des info-bulles"), prefs.helpBubbles));
+        ->setText(
+            shell::toggleCaption(QStringLiteral("Affichage des info-bulles"), prefs.helpBubbles));
     findChild<platform::GradientButton*>(QStringLiteral("CmdConseilDem"))
         ->setText(shell::toggleCaption(QStringLiteral("Conseils au démarrage"), prefs.tipsAtStart));
 }
@@ -152,10 +158,11 @@ void PopUpInfos::removeSettings() {
     hide();
     platform::Message question;
     question.title = QStringLiteral("DÉSINSTALLATION");
-    question.text = QStringLiteral("Cette opération ne devrait être effectuée que si vous souhaitez "
-                                   "désinstaller le programme.\n"
-                                   "Etes-vous sûr(e) de vouloir supprimer la clé d'enregistrement "
-                                   "des données d'initialisation dans la base du Registre ?");
+    question.text =
+        QStringLiteral("Cette opération ne devrait être effectuée que si vous souhaitez "
+                       "désinstaller le programme.\n"
+                       "Etes-vous sûr(e) de vouloir supprimer la clé d'enregistrement "
+                       "des données d'initialisation dans la base du Registre ?");
     question.icon = platform::MessageIcon::Critical;
     question.buttons = platform::MessageButtons::YesNo;
     question.defaultButton = 2;

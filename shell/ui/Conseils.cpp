@@ -76,7 +76,9 @@ Conseils::Conseils(QWidget* parent, std::function<double()> random, const QStrin
     if (!m_random) {
         auto engine = std::make_shared<std::mt19937>(static_cast<std::mt19937::result_type>(
             std::chrono::system_clock::now().time_since_epoch().count()));
-        m_random = [engine] { return std::uniform_real_distribution<double>(0.0, 1.0)(*engine); };
+        m_random = [engine] {
+            return std::uniform_real_distribution<double>(0.0, 1.0)(*engine);
+        };
     }
     loadTips(tipsFile.isEmpty() ? DataFiles::find(QString::fromUtf8(Tips::kFileName)) : tipsFile);
 }

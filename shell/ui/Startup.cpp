@@ -64,8 +64,8 @@ void Startup::report() const {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return;
-    file.write(("NbrIco: " + m_main->countText() + "\nEtiquette1: " + m_main->pathText() + "\n")
-                   .toUtf8());
+    file.write(
+        ("NbrIco: " + m_main->countText() + "\nEtiquette1: " + m_main->pathText() + "\n").toUtf8());
 }
 
 } // namespace shell::ui

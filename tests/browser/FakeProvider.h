@@ -25,10 +25,12 @@ public:
 };
 
 // Writes `count` icon files icon0001.ico ... into the folder, their first byte 1 to 255.
-inline void makeIcons(const QString& folder, int count, const QString& prefix = QStringLiteral("icon")) {
+inline void makeIcons(const QString& folder, int count,
+                      const QString& prefix = QStringLiteral("icon")) {
     QDir().mkpath(folder);
     for (int i = 1; i <= count; ++i) {
-        QFile file(QDir(folder).filePath(QStringLiteral("%1%2.ico").arg(prefix).arg(i, 4, 10, QLatin1Char('0'))));
+        QFile file(QDir(folder).filePath(
+            QStringLiteral("%1%2.ico").arg(prefix).arg(i, 4, 10, QLatin1Char('0'))));
         file.open(QIODevice::WriteOnly);
         file.write(QByteArray(1, static_cast<char>(1 + i % 255)));
     }

@@ -19,7 +19,8 @@ TEST(FolderScan, ListsIcoFilesInAnyCaseByNameAndShowsThemLowerCased) {
     QTemporaryDir dir;
     const QString base = dir.filePath(QStringLiteral("Mes Icônes"));
     QDir().mkpath(base);
-    for (const char* name : {"b.ico", "A.ICO", "c.Ico", "notes.txt", "ico", ".ico.bak", "Zèbre.ico"})
+    for (const char* name :
+         {"b.ico", "A.ICO", "c.Ico", "notes.txt", "ico", ".ico.bak", "Zèbre.ico"})
         touch(base + QLatin1Char('/') + QString::fromUtf8(name));
     QDir().mkpath(base + QStringLiteral("/dossier.ico")); // a folder is not an icon
     QFile::link(base + QStringLiteral("/b.ico"), base + QStringLiteral("/lien.ico"));
@@ -31,7 +32,8 @@ TEST(FolderScan, ListsIcoFilesInAnyCaseByNameAndShowsThemLowerCased) {
         files << QFileInfo(e.file).fileName();
         shown << e.shown;
     }
-    EXPECT_EQ(files, (QStringList{"A.ICO", "b.ico", "c.Ico", "lien.ico", QStringLiteral("Zèbre.ico")}));
+    EXPECT_EQ(files,
+              (QStringList{"A.ICO", "b.ico", "c.Ico", "lien.ico", QStringLiteral("Zèbre.ico")}));
     EXPECT_EQ(shown.first(), (base + QStringLiteral("/a.ico")).toLower());
     EXPECT_TRUE(shown.first().contains(QStringLiteral("mes icônes/")));
     EXPECT_EQ((*entries)[0].file, base + QStringLiteral("/A.ICO"));
@@ -62,7 +64,8 @@ TEST(FolderTree, OpenFoldersDownToTheCurrentThenItsSubfolders) {
     EXPECT_EQ(items[static_cast<std::size_t>(at + 1)].name, QStringLiteral("Alpha"));
     EXPECT_EQ(items[static_cast<std::size_t>(at + 2)].name, QStringLiteral("beta"));
     EXPECT_EQ(items[static_cast<std::size_t>(at + 3)].name, QStringLiteral("zeta"));
-    EXPECT_EQ(items[static_cast<std::size_t>(at + 3)].depth, items[static_cast<std::size_t>(at)].depth + 1);
+    EXPECT_EQ(items[static_cast<std::size_t>(at + 3)].depth,
+              items[static_cast<std::size_t>(at)].depth + 1);
     EXPECT_FALSE(items[static_cast<std::size_t>(at + 1)].open);
 }
 

@@ -45,7 +45,8 @@ TEST_F(IconGridTest, CountAndPathTexts) {
                       QStringLiteral("Sélectionnez un dossier contenant des icônes (*.ico)"));
             EXPECT_EQ(m_grid.current(), 0);
         } else {
-            EXPECT_EQ(m_grid.pathText(), (m_grid.folder() + QStringLiteral("icon0001.ico")).toLower());
+            EXPECT_EQ(m_grid.pathText(),
+                      (m_grid.folder() + QStringLiteral("icon0001.ico")).toLower());
             EXPECT_EQ(m_grid.current(), 1);
         }
     }
@@ -61,11 +62,23 @@ struct MoveCase {
 
 TEST_F(IconGridTest, EveryMoveWithItsArithmeticAndClamping) {
     const QString hundred = folder(100);
-    const auto page = [](IconGrid& g) { g.pageNext(); };
-    const auto back = [](IconGrid& g) { g.pagePrevious(); };
-    const auto line = [](IconGrid& g) { g.lineNext(); };
-    const auto up = [](IconGrid& g) { g.linePrevious(); };
-    const auto cell = [](int k) { return [k](IconGrid& g) { g.clickCell(k); }; };
+    const auto page = [](IconGrid& g) {
+        g.pageNext();
+    };
+    const auto back = [](IconGrid& g) {
+        g.pagePrevious();
+    };
+    const auto line = [](IconGrid& g) {
+        g.lineNext();
+    };
+    const auto up = [](IconGrid& g) {
+        g.linePrevious();
+    };
+    const auto cell = [](int k) {
+        return [k](IconGrid& g) {
+            g.clickCell(k);
+        };
+    };
     const MoveCase cases[] = {
         {GridView::Icons32, 1, page, 43, "page from 1"},
         {GridView::Icons32, 43, page, 85, "page from 43"},
@@ -143,7 +156,8 @@ TEST_F(IconGridTest, ARefreshKeepsTheIndexWithinTheNewCount) {
     for (int i = 0; i < 2; ++i)
         m_grid.pageNext(); // 85
     for (int i = 61; i <= 100; ++i)
-        QFile::remove(QDir(path).filePath(QStringLiteral("icon%1.ico").arg(i, 4, 10, QLatin1Char('0'))));
+        QFile::remove(
+            QDir(path).filePath(QStringLiteral("icon%1.ico").arg(i, 4, 10, QLatin1Char('0'))));
     EXPECT_EQ(m_grid.refresh(), ScanResult::Listed);
     EXPECT_EQ(m_grid.count(), 60);
     EXPECT_EQ(m_grid.current(), 60);
@@ -252,12 +266,12 @@ TEST(GridGeometry, BothGridsFillTheSameSquareAndCellsAreFoundByPoint) {
         GridView view;
         int x, y, cell;
     } cases[] = {
-        {GridView::Icons32, 8, 8, 0},     {GridView::Icons32, 39, 39, 0},
-        {GridView::Icons32, 40, 8, -1},   {GridView::Icons32, 44, 8, 1},
-        {GridView::Icons32, 7, 8, -1},    {GridView::Icons32, 116, 116, 24},
+        {GridView::Icons32, 8, 8, 0},      {GridView::Icons32, 39, 39, 0},
+        {GridView::Icons32, 40, 8, -1},    {GridView::Icons32, 44, 8, 1},
+        {GridView::Icons32, 7, 8, -1},     {GridView::Icons32, 116, 116, 24},
         {GridView::Icons32, 255, 255, 48}, {GridView::Icons32, 256, 255, -1},
-        {GridView::Icons48, 4, 4, 0},     {GridView::Icons48, 51, 51, 0},
-        {GridView::Icons48, 52, 4, -1},   {GridView::Icons48, 108, 108, 12},
+        {GridView::Icons48, 4, 4, 0},      {GridView::Icons48, 51, 51, 0},
+        {GridView::Icons48, 52, 4, -1},    {GridView::Icons48, 108, 108, 12},
         {GridView::Icons48, 259, 259, 24}, {GridView::Icons48, 260, 259, -1},
     };
     for (const auto& c : cases)

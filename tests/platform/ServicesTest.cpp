@@ -1,7 +1,7 @@
+#include "platform/Services.h"
 #include "platform/AlsaSound.h"
 #include "platform/QtDialogs.h"
 #include "platform/ScriptedDialogs.h"
-#include "platform/Services.h"
 #include "platform/SingleInstance.h"
 #include "platform/Trash.h"
 #include "shell/DataFiles.h"
@@ -34,8 +34,8 @@ TEST(ScriptedDialogs, AnswersInOrderAndRecordsWhatWasAsked) {
                               platform::MessageIcon::Exclamation, MessageButtons::YesNo, 2};
     EXPECT_EQ(platform::dialogs().message(message), Answer::Yes);
     EXPECT_EQ(platform::dialogs().chooseColour(0x808000), std::optional<icon::Colour>(0x0000FF));
-    const auto file = platform::dialogs().saveFile({QStringLiteral("Copier l'icône"), {}, {},
-                                                    QStringLiteral("Icônes|*.ico"), 1});
+    const auto file = platform::dialogs().saveFile(
+        {QStringLiteral("Copier l'icône"), {}, {}, QStringLiteral("Icônes|*.ico"), 1});
     ASSERT_TRUE(file);
     EXPECT_EQ(file->path, QStringLiteral("/tmp/a.ico"));
     EXPECT_EQ(file->filterIndex, 2);
@@ -92,7 +92,8 @@ TEST(QtDialogs, TheProgramsFiltersBecomeQtFilters) {
         {"", {QStringLiteral("* (*)")}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(platform::QtDialogs::qtFilters(QString::fromUtf8(c.filter)), c.expected) << c.filter;
+        EXPECT_EQ(platform::QtDialogs::qtFilters(QString::fromUtf8(c.filter)), c.expected)
+            << c.filter;
 }
 
 TEST(SingleInstance, TheSecondInstanceOfAUserSeesTheFirst) {
@@ -137,7 +138,8 @@ TEST(AlsaSound, TheClickIsAShortWaveAndBrokenFilesAreRefused) {
     EXPECT_LT(wave.samples.size(), static_cast<std::size_t>(wave.rate)) << "under a second";
 
     for (std::size_t cut : {0, 11, 30, 44, 60}) {
-        std::vector<std::uint8_t> truncated(bytes->begin(), bytes->begin() + static_cast<long>(cut));
+        std::vector<std::uint8_t> truncated(bytes->begin(),
+                                            bytes->begin() + static_cast<long>(cut));
         platform::AlsaSound::Wave w;
         EXPECT_FALSE(platform::AlsaSound::parseWave(truncated, w)) << cut;
     }

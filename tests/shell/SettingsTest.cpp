@@ -1,5 +1,5 @@
-#include "shell/Preferences.h"
 #include "shell/Settings.h"
+#include "shell/Preferences.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -44,11 +44,19 @@ TEST_F(SettingsTest, TheStoreIsOneFileOfTheUsersConfigurationFolder) {
 }
 
 TEST_F(SettingsTest, EveryKeyRoundTripsVerbatim) {
-    const shell::SettingKey all[] = {keys::kGradientStart, keys::kGradientEnd,   keys::kButtonText,
-                                     keys::kButtonLightRead, keys::kButtonLightWritten,
-                                     keys::kOtherText,     keys::kWindowBackground, keys::kViewing,
-                                     keys::kIcons48,       keys::kHelpBubbles,  keys::kTipsAtStart,
-                                     keys::kDepthWarning,  keys::kLastIcon};
+    const shell::SettingKey all[] = {keys::kGradientStart,
+                                     keys::kGradientEnd,
+                                     keys::kButtonText,
+                                     keys::kButtonLightRead,
+                                     keys::kButtonLightWritten,
+                                     keys::kOtherText,
+                                     keys::kWindowBackground,
+                                     keys::kViewing,
+                                     keys::kIcons48,
+                                     keys::kHelpBubbles,
+                                     keys::kTipsAtStart,
+                                     keys::kDepthWarning,
+                                     keys::kLastIcon};
     int n = 0;
     for (const auto& key : all)
         settings.save(key, QStringLiteral("valeur %1 é'«").arg(n++));
@@ -70,8 +78,8 @@ TEST_F(SettingsTest, FlagsAreOuiOrNonAndOnlyOuiMeansYes) {
     const struct {
         const char* stored;
         bool yes;
-    } cases[] = {{"Oui", true}, {"Non", false}, {"oui", false}, {"1", false}, {"", false},
-                 {"OUI", false}, {"Oui ", false}};
+    } cases[] = {{"Oui", true}, {"Non", false}, {"oui", false}, {"1", false},
+                 {"", false},   {"OUI", false}, {"Oui ", false}};
     for (const auto& c : cases) {
         settings.save(keys::kHelpBubbles, QString::fromUtf8(c.stored));
         EXPECT_EQ(Preferences::load(settings).helpBubbles, c.yes) << c.stored;
@@ -94,11 +102,11 @@ TEST(ColourText, ReadsDecimalAndAmpersandHexAndFallsBackOnAnythingElse) {
         const char* text;
         icon::Colour expected;
     } cases[] = {
-        {"8421376", 0x808000},  {"&H808000", 0x808000}, {"&h808000", 0x808000},
+        {"8421376", 0x808000},  {"&H808000", 0x808000},  {"&h808000", 0x808000},
         {"&HDEFF6C", 0xDEFF6C}, {"&HD2D200&", 0xD2D200}, {"0", 0x000000},
-        {"16777215", 0xFFFFFF}, {" 255 ", 0x0000FF},    {"", fallback},
-        {"bleu", fallback},     {"&H", fallback},       {"&HXYZ", fallback},
-        {"12.5", fallback},     {"0x808000", fallback}, {"99999999999", fallback},
+        {"16777215", 0xFFFFFF}, {" 255 ", 0x0000FF},     {"", fallback},
+        {"bleu", fallback},     {"&H", fallback},        {"&HXYZ", fallback},
+        {"12.5", fallback},     {"0x808000", fallback},  {"99999999999", fallback},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Settings::parseColour(QString::fromUtf8(c.text), fallback), c.expected) << c.text;

@@ -1,5 +1,5 @@
-#include "shell/DataFiles.h"
 #include "shell/Tips.h"
+#include "shell/DataFiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -42,9 +42,9 @@ TEST_F(FenPrinFixture, AnEmptyFolderDisablesTheFileCommandsAndTheMoves) {
 
 TEST_F(FenPrinFixture, CommandsOfLaterWindowsAreInPlaceButDisabled) {
     m_window->openFolder(iconFolder(3));
-    for (const char* name : {"CmdCOPIER", "CmdRename", "CmdSuppr", "CmdCopImg", "CmdIcoBmp",
-                             "CmdVisuBmp", "CmdDLL", "CmdIcoBmpDLL", "CmdEditer", "CmdPaint",
-                             "CmdPressPap", "CmdAide"}) {
+    for (const char* name :
+         {"CmdCOPIER", "CmdRename", "CmdSuppr", "CmdCopImg", "CmdIcoBmp", "CmdVisuBmp", "CmdDLL",
+          "CmdIcoBmpDLL", "CmdEditer", "CmdPaint", "CmdPressPap", "CmdAide"}) {
         ASSERT_NE(button(name), nullptr) << name;
         EXPECT_FALSE(button(name)->isEnabled()) << name;
     }
@@ -60,17 +60,20 @@ TEST_F(FenPrinFixture, TheMoveButtonsWithTheirLeftAndRightButtons) {
         const char* name;
         bool right;
         int expected;
-    } steps[] = {{"DeplaceHaut", false, 43}, {"DeplaceHaut", false, 85}, {"DeplaceHaut", false, 100},
-                 {"DeplaceBas", false, 58},  {"DeplaceBas", true, 51},   {"DeplaceHaut", true, 58},
-                 {"DeplaceDebut", false, 1}, {"DeplaceBas", true, 1},    {"DeplaceFin", false, 100}};
+    } steps[] = {
+        {"DeplaceHaut", false, 43}, {"DeplaceHaut", false, 85}, {"DeplaceHaut", false, 100},
+        {"DeplaceBas", false, 58},  {"DeplaceBas", true, 51},   {"DeplaceHaut", true, 58},
+        {"DeplaceDebut", false, 1}, {"DeplaceBas", true, 1},    {"DeplaceFin", false, 100}};
     for (const auto& step : steps) {
         if (step.right)
             rightPress(step.name);
         else
             click(step.name);
-        EXPECT_EQ(m_window->grid().current(), step.expected) << step.name << (step.right ? " right" : "");
+        EXPECT_EQ(m_window->grid().current(), step.expected)
+            << step.name << (step.right ? " right" : "");
     }
-    EXPECT_EQ(m_window->pathText(), (m_window->grid().folder() + QStringLiteral("icon0100.ico")).toLower());
+    EXPECT_EQ(m_window->pathText(),
+              (m_window->grid().folder() + QStringLiteral("icon0100.ico")).toLower());
 }
 
 TEST_F(FenPrinFixture, AClickOnACellCentresItsIcon) {

@@ -77,14 +77,16 @@ TEST_F(PopUpInfosTest, AChosenColourIsWrittenAndAppliedAndACancelRewritesTheOldO
         m_dialogs.cancel();
         shell::Settings().deleteAll();
         click(browser::ui::PopUpInfos::colourButtonName(c.which).toLatin1().constData());
-        EXPECT_EQ(shell::Settings().read({"Couleurs de l'interface", c.key}), QStringLiteral("255"));
+        EXPECT_EQ(shell::Settings().read({"Couleurs de l'interface", c.key}),
+                  QStringLiteral("255"));
     }
     EXPECT_EQ(button("CmdCOPIER")->startColour(), 0x0000FFu);
     EXPECT_EQ(button("CmdDeplaceFen")->lightColour(), 0x0000FFu);
     auto* fond = m_window->findChild<browser::ui::IconGridView*>(QStringLiteral("Fond"));
     EXPECT_EQ(fond->background(), 0x0000FFu);
-    EXPECT_EQ(m_window->findChild<platform::GradientPanel*>(QStringLiteral("NbrIco"))->startColour(),
-              0x0000FFu);
+    EXPECT_EQ(
+        m_window->findChild<platform::GradientPanel*>(QStringLiteral("NbrIco"))->startColour(),
+        0x0000FFu);
 }
 
 TEST_F(PopUpInfosTest, ResetWritesAndShowsTheDefaultsAtOnce) {
@@ -110,11 +112,12 @@ TEST_F(PopUpInfosTest, RemovingTheSettingsAsksFirstWithNoAsTheDefault) {
         click("CmdSupprCle");
         const platform::Asked& asked = m_dialogs.last();
         EXPECT_EQ(asked.title, QStringLiteral("DÉSINSTALLATION"));
-        EXPECT_EQ(asked.text,
-                  QStringLiteral("Cette opération ne devrait être effectuée que si vous souhaitez "
-                                 "désinstaller le programme.\nEtes-vous sûr(e) de vouloir supprimer "
-                                 "la clé d'enregistrement des données d'initialisation dans la base "
-                                 "du Registre ?"));
+        EXPECT_EQ(
+            asked.text,
+            QStringLiteral("Cette opération ne devrait être effectuée que si vous souhaitez "
+                           "désinstaller le programme.\nEtes-vous sûr(e) de vouloir supprimer "
+                           "la clé d'enregistrement des données d'initialisation dans la base "
+                           "du Registre ?"));
         EXPECT_EQ(asked.icon, platform::MessageIcon::Critical);
         EXPECT_EQ(asked.buttons, platform::MessageButtons::YesNo);
         EXPECT_EQ(asked.defaultButton, 2);

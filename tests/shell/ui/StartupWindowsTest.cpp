@@ -51,8 +51,9 @@ TEST_F(StartupWindows, Demarre2AsksBeforeASecondInstanceWithNoAsTheDefault) {
         EXPECT_EQ(shell::ui::Demarre2::askForSecondInstance(), answer == platform::Answer::Yes);
         const Asked& asked = m_dialogs.last();
         EXPECT_EQ(asked.title, QStringLiteral("Orvanne®"));
-        EXPECT_EQ(asked.text, QStringLiteral("Orvanne® est déjà en cours d'exécution.\nSouhaitez-vous "
-                                             "exécuter une nouvelle instance ?"));
+        EXPECT_EQ(asked.text,
+                  QStringLiteral("Orvanne® est déjà en cours d'exécution.\nSouhaitez-vous "
+                                 "exécuter une nouvelle instance ?"));
         EXPECT_EQ(asked.icon, platform::MessageIcon::Exclamation);
         EXPECT_EQ(asked.buttons, platform::MessageButtons::YesNo);
         EXPECT_EQ(asked.defaultButton, 2);
@@ -89,7 +90,8 @@ TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
     browser::IcoThumbnailProvider provider;
     shell::ui::Startup startup(provider, 1);
     QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
-    m_dialogs.onModal([](QDialog& tips) { EXPECT_EQ(tips.objectName(), QStringLiteral("Conseils")); });
+    m_dialogs.onModal(
+        [](QDialog& tips) { EXPECT_EQ(tips.objectName(), QStringLiteral("Conseils")); });
     ASSERT_TRUE(startup.begin(false));
     ASSERT_TRUE(shown.wait(3000));
     QDir::setCurrent(before);
@@ -111,8 +113,9 @@ TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
     QTest::qWait(20);
     EXPECT_TRUE(m_dialogs.asked().empty());
     startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdApropos"))->click();
-    EXPECT_EQ(startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdConseilDem"))->text(),
-              QStringLiteral("Conseils au démarrage"));
+    EXPECT_EQ(
+        startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdConseilDem"))->text(),
+        QStringLiteral("Conseils au démarrage"));
 }
 
 TEST_F(StartupWindows, ConseilsShowsARandomTipAndGoesRound) {
@@ -122,7 +125,8 @@ TEST_F(StartupWindows, ConseilsShowsARandomTipAndGoesRound) {
     file.open(QIODevice::WriteOnly);
     file.write("Premier conseil\nDeuxième conseil\nTroisième conseil\n");
     file.close();
-    shell::ui::Conseils tips(nullptr, [] { return 0.5; }, path);
+    shell::ui::Conseils tips(
+        nullptr, [] { return 0.5; }, path);
     EXPECT_EQ(tips.tipText(), QStringLiteral("Deuxième conseil"));
     for (int i = 0; i < 3; ++i)
         click(tips, "CmdNextTip");
@@ -146,9 +150,11 @@ TEST_F(StartupWindows, ConseilsCheckBoxWritesTheTipsFlag) {
 }
 
 TEST_F(StartupWindows, ConseilsWithoutItsFileSaysSoAndStaysUsable) {
-    shell::ui::Conseils tips(nullptr, [] { return 0.0; }, QStringLiteral("/nonexistent/Conseils.txt"));
-    EXPECT_EQ(tips.tipText(), QStringLiteral("Le fichier Conseils.txt n'a pas été trouvé.\r\n\r\n"
-                                             "Vous n'auriez pas dû le supprimer du dossier de Orvanne®"));
+    shell::ui::Conseils tips(
+        nullptr, [] { return 0.0; }, QStringLiteral("/nonexistent/Conseils.txt"));
+    EXPECT_EQ(tips.tipText(),
+              QStringLiteral("Le fichier Conseils.txt n'a pas été trouvé.\r\n\r\n"
+                             "Vous n'auriez pas dû le supprimer du dossier de Orvanne®"));
     click(tips, "CmdNextTip");
     EXPECT_EQ(tips.tipText(), shell::Tips::missingFileText());
     tips.show();
