@@ -1,7 +1,9 @@
 #include "editor/Figures.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace editor {
 
@@ -29,24 +31,53 @@ struct Box {
     int lastY() const { return std::min(bottom, icon::kIconSize - 1); }
 };
 
-// Membership of the ellipse inscribed in the box: the cell centre (x + ½, y + ½) against the
-// ellipse whose bounding rectangle is the box's outer edges. Every quantity is a multiple of ½,
-// exact in floating point, so the shape is exactly symmetric.
+// The ellipse inscribed in the box: a cell belongs to it when its centre (x + ½, y + ½) lies
+// inside the ellipse whose bounding rectangle is the box's outer edges. Every quantity is a
+// multiple of ½, exact in floating point, so the shape is exactly symmetric. Membership is
+// worked out once for the cells that can matter (the box within the icon, one cell around it
+// for the outline test), as one span of columns per row: the shape is convex.
 class EllipseShape {
 public:
-    explicit EllipseShape(const Box& box)
-        : m_box(box)
-        , m_centreX((box.left + box.right + 1) / 2.0)
-        , m_centreY((box.top + box.bottom + 1) / 2.0)
-        , m_radiusX((box.right - box.left + 1) / 2.0)
-        , m_radiusY((box.bottom - box.top + 1) / 2.0) {}
+    explicit EllipseShape(const Box& box) {
+        const double centreX = (box.left + box.right + 1) / 2.0;
+        const double centreY = (box.top + box.bottom + 1) / 2.0;
+        const double radiusX = (box.right - box.left + 1) / 2.0;
+        const double radiusY = (box.bottom - box.top + 1) / 2.0;
+        m_firstRow = box.firstY() - 1;
+        const int rows = box.lastY() - box.firstY() + 3;
+        m_spans.assign(static_cast<std::size_t>(std::max(rows, 0)), {1, 0});
+        for (int i = 0; i < rows; ++i) {
+            const int y = m_firstRow + i;
+            if (y < box.top || y > box.bottom)
+                continue;
+            const double dy = (y + 0.5 - centreY) / radiusY;
+            const double rest = 1.0 - dy * dy;
+            if (rest < 0)
+                continue;
+            // The first column of the row inside the ellipse, found from the left edge of the
+            // box and exact by the same test as everywhere else.
+            const int middle = static_cast<int>(std::floor(centreX - 0.5));
+            auto inside = [&](int x) {
+                const double dx = (x + 0.5 - centreX) / radiusX;
+                return dx * dx + dy * dy <= 1.0;
+            };
+            const double reach = radiusX * std::sqrt(rest);
+            int first = std::max(box.left, static_cast<int>(std::floor(centreX - reach - 0.5)) - 1);
+            while (first <= middle && !inside(first))
+                ++first;
+            if (first > middle)
+                continue;
+            // Symmetric: the last column mirrors the first.
+            m_spans[static_cast<std::size_t>(i)] = {first, box.left + box.right - first};
+        }
+    }
 
     bool contains(int x, int y) const {
-        if (x < m_box.left || x > m_box.right || y < m_box.top || y > m_box.bottom)
+        const int i = y - m_firstRow;
+        if (i < 0 || i >= static_cast<int>(m_spans.size()))
             return false;
-        const double dx = (x + 0.5 - m_centreX) / m_radiusX;
-        const double dy = (y + 0.5 - m_centreY) / m_radiusY;
-        return dx * dx + dy * dy <= 1.0;
+        const auto& [first, last] = m_spans[static_cast<std::size_t>(i)];
+        return x >= first && x <= last;
     }
     bool onOutline(int x, int y) const {
         return contains(x, y) && (!contains(x - 1, y) || !contains(x + 1, y) ||
@@ -54,8 +85,8 @@ public:
     }
 
 private:
-    Box m_box;
-    double m_centreX, m_centreY, m_radiusX, m_radiusY;
+    int m_firstRow = 0;
+    std::vector<std::pair<int, int>> m_spans; // first and last column of each row
 };
 
 template <typename Member>

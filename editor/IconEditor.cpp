@@ -255,7 +255,10 @@ void IconEditor::updateRubberBand() {
 }
 
 Events IconEditor::selectTool(Tool tool) {
-    m_previousTool = m_tool;
+    // Choosing the current tool again keeps the previous one, so that the picker always has
+    // another tool to hand back to.
+    if (tool != m_tool)
+        m_previousTool = m_tool;
     m_tool = tool;
     return kToolChanged;
 }

@@ -192,3 +192,25 @@ TEST(ToolPad, MapsPointsToTools) {
     EXPECT_EQ(editor::toolName(Tool::TwoColourRectangle), "Rectangle rempli");
     EXPECT_EQ(editor::toolName(Tool::Selection), "Sélection");
 }
+
+TEST(Picker, ChosenTwiceStillHandsBackTheToolBeforeIt) {
+    IconEditor e;
+    e.selectTool(Tool::Eraser);
+    e.selectTool(Tool::Picker);
+    e.selectTool(Tool::Picker);
+    EXPECT_EQ(e.previousTool(), Tool::Eraser);
+    click(e, 1, 0, 0);
+    EXPECT_EQ(e.tool(), Tool::Eraser);
+}
+
+TEST(Canvas, EveryMoveUpdatesThePositionReadout) {
+    IconEditor e;
+    EXPECT_EQ(e.move(0, 123.4, 56.5), editor::kPositionChanged);
+    EXPECT_EQ(e.positionText(), "  12 , 5");
+    e.move(0, 2000, 2000);
+    EXPECT_EQ(e.positionText(), "31 , 31");
+    // Without a held button nothing is drawn.
+    e.selectTool(Tool::Pencil);
+    e.move(1, 55, 55);
+    EXPECT_EQ(e.planes(), icon::IconPlanes::blank());
+}
