@@ -33,10 +33,11 @@ TEST(Palette, ReleaseMapsToACell) {
                  {5, 208.1, -1}, {207.5, 194, 240}, {0, 195, 240}};
     for (const auto& c : cases) {
         const auto index = Palette::indexAt(c.x, c.y);
-        if (c.index < 0)
+        if (c.index < 0) {
             EXPECT_FALSE(index) << c.x << "," << c.y;
-        else
+        } else {
             EXPECT_EQ(index, c.index) << c.x << "," << c.y;
+        }
     }
     EXPECT_EQ(Palette::cellOrigin(17).x, 13);
     EXPECT_EQ(Palette::cellOrigin(17).y, 13);

@@ -66,8 +66,9 @@ TEST(Paste, TransparentPasteHolesTheBackgroundAndLowAlpha) {
         for (int x = 0; x < 4; ++x) {
             EXPECT_EQ(icon::isTransparentMask(b.mask.at(x, 0)), c.transparent[x])
                 << "opaque " << c.opaque << " pixel " << x;
-            if (c.transparent[x])
+            if (c.transparent[x]) {
                 EXPECT_EQ(b.image.at(x, 0), icon::kBlack);
+            }
         }
         EXPECT_EQ(e.planes(), icon::IconPlanes::blank());
         EXPECT_EQ(e.history().undoCount(), 1u);

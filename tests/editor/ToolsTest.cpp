@@ -34,8 +34,9 @@ TEST(Pencil, PaintsTheCellUnderBothCoordinatesAboveZero) {
         e.press(1, c.x, c.y);
         e.release(1, c.x, c.y);
         EXPECT_EQ(opaqueCount(e.planes()), c.cx < 0 ? 0 : 1) << c.x << "," << c.y;
-        if (c.cx >= 0)
+        if (c.cx >= 0) {
             EXPECT_FALSE(e.planes().isTransparent(c.cx, c.cy));
+        }
         // A stroke is one step, even one that painted nothing.
         EXPECT_EQ(e.history().undoCount(), 2u);
         EXPECT_TRUE(e.isModified());
