@@ -2,6 +2,7 @@
 
 #include "effects/Rounding.h"
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -32,6 +33,10 @@ Colour Gradient::colourOf(int i, Colour start, Colour end, int stepCount) {
 
 Frame Gradient::render(Colour start, Colour end, int angle) {
     const int n = stepCount(angle);
+    // Steps 0..63 cover every position of both kinds of gradient.
+    std::array<Colour, 64> colours{};
+    for (int i = 0; i < 64; ++i)
+        colours[static_cast<std::size_t>(i)] = colourOf(i, start, end, n);
     Frame out(32, 32);
     for (int y = 0; y < 32; ++y)
         for (int x = 0; x < 32; ++x) {
@@ -59,7 +64,7 @@ Frame Gradient::render(Colour start, Colour end, int angle) {
                 break;
             }
             }
-            out.set(x, y, colourOf(i, start, end, n));
+            out.set(x, y, colours[static_cast<std::size_t>(i)]);
         }
     return out;
 }
