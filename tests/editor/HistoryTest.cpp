@@ -33,20 +33,6 @@ TEST(History, UndoOfTheBaseMovesItAcrossAndFails) {
     EXPECT_FALSE(h.redo());
 }
 
-TEST(History, StepsGoBackAndForthInOrder) {
-    History h;
-    for (int i = 0; i < 4; ++i)
-        h.push(withPixel(i, 0x10 + i));
-    for (int i = 2; i >= 0; --i)
-        EXPECT_EQ(*h.undo(), withPixel(i, 0x10 + i));
-    for (int i = 1; i <= 3; ++i)
-        EXPECT_EQ(*h.redo(), withPixel(i, 0x10 + i));
-    EXPECT_EQ(h.counter(), 4);
-    h.clear();
-    EXPECT_EQ(h.counter(), 0);
-    EXPECT_EQ(h.current(), nullptr);
-}
-
 TEST(EditorHistory, ThreeStrokesUndoneAndRedone) {
     IconEditor e;
     e.loadIcon(editortest::patternedIcon());

@@ -67,17 +67,6 @@ TEST(Transforms, GiveTheIconBackWhenUndoneByThemselves) {
     EXPECT_EQ(turnLeft(turnLeft(icon)), flipVertical(flipHorizontal(icon)));
 }
 
-TEST(Transforms, WholeIconQuarterTurnsFollowTheirFormulas) {
-    const IconBitmap icon = patternedIcon();
-    const IconBitmap left = turnLeft(icon), right = turnRight(icon);
-    for (int y = 0; y < 32; ++y)
-        for (int x = 0; x < 32; ++x) {
-            ASSERT_EQ(left.image.at(y, 31 - x), icon.image.at(x, y));
-            ASSERT_EQ(left.mask.at(y, 31 - x), icon.mask.at(x, y));
-            ASSERT_EQ(right.image.at(31 - y, x), icon.image.at(x, y));
-        }
-}
-
 TEST(Transforms, HalfReflectionsCopyOneHalfOntoTheOther) {
     // 4×4 block numbered 1..16 row by row.
     std::vector<icon::Colour> n;
