@@ -175,16 +175,18 @@ Events IconEditor::release(int button, double x, double y) {
     const bool onCanvas = m_x >= 0 && m_x < kCanvasSize + 1 && m_y >= 0 && m_y < kCanvasSize + 1;
     switch (m_tool) {
     case Tool::Selection: {
+        int px = m_x, py = m_y;
+        SnapGridLine(px, py);
+        ClampCanvas(px, py);
         if (m_moving) {
+            // The frame settles where the button was let go.
+            moveSelectionTo(px, py);
             m_moving = false;
             return kRedraw;
         }
         if (!m_framing)
             return kNoEvent;
         m_framing = false;
-        int px = m_x, py = m_y;
-        SnapGridLine(px, py);
-        ClampCanvas(px, py);
         m_rect.right = px;
         m_rect.bottom = py;
         if (m_rect.left > m_rect.right)
