@@ -52,7 +52,7 @@ void BM_ToolStroke(benchmark::State& state) {
             e.move(1, at(c), at(c + 1));
         e.release(1, at(29), at(30));
         if (tool == Tool::Selection)
-            e.dropSelection();
+            e.DropSelection();
         keepHistoryShort(e, icon);
     }
     // A stroke is 30 events: the press, 28 moves and the release.
@@ -95,12 +95,12 @@ void BM_SelectionMoveAndDrop(benchmark::State& state) {
     IconEditor e;
     e.loadIcon(icon);
     for (auto _ : state) {
-        e.selectAll();
+        e.SelectAll();
         e.press(1, 150, 150);
         for (int d = 0; d < 100; d += 10)
             e.move(1, 150 + d, 150 + d);
         e.release(1, 250, 250);
-        e.dropSelection();
+        e.DropSelection();
         keepHistoryShort(e, icon);
     }
 }
@@ -110,14 +110,14 @@ void BM_CopyAndPaste(benchmark::State& state) {
     const icon::IconPlanes icon = patternedIcon();
     IconEditor e;
     e.loadIcon(icon);
-    e.selectAll();
-    const QImage copy = e.copySelection();
+    e.SelectAll();
+    const QImage copy = e.CopySelection();
     QImage big(640, 480, QImage::Format_ARGB32);
     big.fill(qRgba(10, 200, 30, 255));
     const QImage& picture = state.range(0) ? big : copy;
     for (auto _ : state) {
-        e.paste(picture, false, editor::PasteFit::Proportional);
-        e.dropSelection();
+        e.PasteClipboard(picture, false, editor::PasteFit::Proportional);
+        e.DropSelection();
         keepHistoryShort(e, icon);
     }
     state.SetLabel(state.range(0) ? "640x480 reduced" : "32x32");
@@ -269,8 +269,8 @@ void BM_UndoRedo(benchmark::State& state) {
     for (int i = 0; i < 1000; ++i)
         e.negative();
     for (auto _ : state) {
-        benchmark::DoNotOptimize(e.undo());
-        benchmark::DoNotOptimize(e.redo());
+        benchmark::DoNotOptimize(e.Undo());
+        benchmark::DoNotOptimize(e.Redo());
     }
     state.SetItemsProcessed(state.iterations() * 2);
 }
@@ -292,7 +292,7 @@ void BM_History10000Steps(benchmark::State& state) {
             }
             heldMiB = static_cast<double>(mallinfo2().uordblks - before) / (1024.0 * 1024.0);
             for (int i = 0; i < 10000; ++i)
-                e.undo();
+                e.Undo();
             benchmark::DoNotOptimize(e.planes());
         }
     }

@@ -43,7 +43,7 @@ Plane composite(const icon::IconPlanes& planes, Colour background) {
 
 } // namespace
 
-void floodFill(icon::IconPlanes& planes, int cx, int cy, Colour fill, Colour previewBackground) {
+void FloodFillAt(icon::IconPlanes& planes, int cx, int cy, Colour fill, Colour previewBackground) {
     if (!Plane::contains(cx, cy))
         return;
     Plane overGrey = composite(planes, previewBackground);

@@ -10,7 +10,7 @@ namespace editor {
 // connected area, side by side, of the seed's colour). A pixel is filled only where both fills
 // reached it and its mask equals the seed's: transparent and opaque pixels of the same apparent
 // colour stay apart. A seed outside the icon fills nothing.
-void floodFill(icon::IconPlanes& planes, int cx, int cy, icon::Colour fill,
-               icon::Colour previewBackground);
+void FloodFillAt(icon::IconPlanes& planes, int cx, int cy, icon::Colour fill,
+                 icon::Colour previewBackground);
 
 } // namespace editor

@@ -2,18 +2,18 @@
 
 namespace editor {
 
-void History::clear() {
+void History::ClearHistory() {
     m_undo.clear();
     m_redo.clear();
     m_counter = 0;
 }
 
-void History::push(const icon::IconSnapshot& snapshot) {
+void History::PushSnapshot(const icon::IconSnapshot& snapshot) {
     ++m_counter;
     m_undo.push_back(snapshot);
 }
 
-std::optional<icon::IconSnapshot> History::undo() {
+std::optional<icon::IconSnapshot> History::Undo() {
     if (m_undo.empty())
         return std::nullopt;
     // The move happens before the restore, so undoing the base element moves it across and
@@ -25,7 +25,7 @@ std::optional<icon::IconSnapshot> History::undo() {
     return m_undo.back();
 }
 
-std::optional<icon::IconSnapshot> History::redo() {
+std::optional<icon::IconSnapshot> History::Redo() {
     if (m_redo.empty())
         return std::nullopt;
     m_undo.push_back(m_redo.back());

@@ -15,17 +15,17 @@ namespace editor {
 class History {
 public:
     // Empties both stacks and sets the counter to 0.
-    void clear();
+    void ClearHistory();
     // Records the icon as it is now on the undo stack.
-    void push(const icon::IconSnapshot& snapshot);
-    void clearRedo() { m_redo.clear(); }
+    void PushSnapshot(const icon::IconSnapshot& snapshot);
+    void ClearRedo() { m_redo.clear(); }
 
     // Undo moves the current state to the redo stack first, then gives the state before it.
     // With only the base element left, that element moves to the redo stack and nothing is
     // given back: the caller keeps its planes and reports the failure.
-    std::optional<icon::IconSnapshot> undo();
+    std::optional<icon::IconSnapshot> Undo();
     // The mirror: the last undone state comes back and becomes the current one.
-    std::optional<icon::IconSnapshot> redo();
+    std::optional<icon::IconSnapshot> Redo();
 
     std::size_t undoCount() const { return m_undo.size(); }
     std::size_t redoCount() const { return m_redo.size(); }

@@ -13,8 +13,8 @@ IconEditor::IconEditor() {
 }
 
 Events IconEditor::commit() {
-    m_history.clearRedo();
-    m_history.push(m_planes);
+    m_history.ClearRedo();
+    m_history.PushSnapshot(m_planes);
     m_modified = true;
     return kRedraw;
 }
@@ -29,9 +29,9 @@ Events IconEditor::newIcon() {
     m_rubberBand.clear();
     m_modified = false;
     m_tool = m_previousTool = Tool::Selection;
-    resetButtonColours();
-    m_history.clear();
-    m_history.push(m_planes);
+    ResetButtonColours();
+    m_history.ClearHistory();
+    m_history.PushSnapshot(m_planes);
     return kRedraw | kColoursChanged | kToolChanged;
 }
 
@@ -39,8 +39,8 @@ Events IconEditor::loadIcon(const IconPlanes& planes) {
     const Events events = newIcon();
     // The opened icon takes the place of the blank one as the base of the history.
     m_planes = planes;
-    m_history.clear();
-    m_history.push(m_planes);
+    m_history.ClearHistory();
+    m_history.PushSnapshot(m_planes);
     return events;
 }
 
@@ -57,9 +57,9 @@ IconPlanes IconEditor::displayedPlanes() const {
     return shown;
 }
 
-Events IconEditor::undo(bool dropSelectionFirst) {
-    Events events = dropSelectionFirst ? dropSelection() : kNoEvent;
-    if (const auto snapshot = m_history.undo()) {
+Events IconEditor::Undo(bool dropSelectionFirst) {
+    Events events = dropSelectionFirst ? DropSelection() : kNoEvent;
+    if (const auto snapshot = m_history.Undo()) {
         m_planes = *snapshot;
         m_modified = true;
         return events | kRedraw;
@@ -67,9 +67,9 @@ Events IconEditor::undo(bool dropSelectionFirst) {
     return events | kHistoryFailed;
 }
 
-Events IconEditor::redo(bool dropSelectionFirst) {
-    Events events = dropSelectionFirst ? dropSelection() : kNoEvent;
-    if (const auto snapshot = m_history.redo()) {
+Events IconEditor::Redo(bool dropSelectionFirst) {
+    Events events = dropSelectionFirst ? DropSelection() : kNoEvent;
+    if (const auto snapshot = m_history.Redo()) {
         m_planes = *snapshot;
         m_modified = true;
         return events | kRedraw;
@@ -108,21 +108,21 @@ Events IconEditor::press(int button, double x, double y) {
             moveSelectionTo(px, py);
             return kRedraw;
         }
-        const Events events = dropSelection();
+        const Events events = DropSelection();
         m_framing = true;
         m_rect = {px, py, px, py};
         return events | kRedraw;
     }
     case Tool::Pencil:
     case Tool::Eraser:
-        m_history.clearRedo();
+        m_history.ClearRedo();
         paintCellAt(m_x, m_y);
         return kRedraw;
     case Tool::Picker:
     case Tool::Fill:
         return kNoEvent;
     default: {
-        m_history.clearRedo();
+        m_history.ClearRedo();
         int px = m_x, py = m_y;
         SnapCellCentre(px, py);
         m_startX = px;
@@ -219,8 +219,8 @@ Events IconEditor::release(int button, double x, double y) {
     case Tool::Fill:
         if (!onCanvas)
             return kNoEvent;
-        m_history.clearRedo();
-        floodFill(m_planes, cx, cy, m_drawColour, m_previewBackground);
+        m_history.ClearRedo();
+        FloodFillAt(m_planes, cx, cy, m_drawColour, m_previewBackground);
         return commit();
     case Tool::Pencil:
     case Tool::Eraser:
@@ -265,7 +265,7 @@ Events IconEditor::selectTool(Tool tool) {
     return kToolChanged;
 }
 
-Events IconEditor::resetButtonColours() {
+Events IconEditor::ResetButtonColours() {
     m_buttonColours = {icon::kBlack, icon::kWhite};
     return kColoursChanged;
 }

@@ -62,8 +62,8 @@ public:
 
     // --- History --------------------------------------------------------------------------
     // The edit pad drops a floating selection first; the keyboard does not.
-    Events undo(bool dropSelectionFirst = false);
-    Events redo(bool dropSelectionFirst = false);
+    Events Undo(bool dropSelectionFirst = false);
+    Events Redo(bool dropSelectionFirst = false);
     const History& history() const { return m_history; }
 
     // --- Canvas mouse ---------------------------------------------------------------------
@@ -90,7 +90,7 @@ public:
 
     // --- Colours and palette --------------------------------------------------------------
     icon::Colour buttonColour(int index) const { return m_buttonColours[index & 1]; }
-    Events resetButtonColours();
+    Events ResetButtonColours();
     const Palette& palette() const { return m_palette; }
     // A release over the palette: the cell under (x, y) becomes the button's colour, first
     // redefined as `redefined` when "Couleurs vraies" gave a colour. Invalid cells and
@@ -111,21 +111,22 @@ public:
     const icon::IconBitmap& selectionBuffers() const { return m_buffers; }
 
     // Ends a selection; a floating picture is stamped into the icon and recorded.
-    Events dropSelection();
-    Events selectAll();
+    Events DropSelection();
+    Events SelectAll();
     // The command "Supprimer la sélection": a drawn selection's rectangle becomes transparent
     // (white mask, black colour), a floating picture is thrown away; one step either way.
-    Events deleteSelection();
+    Events DeleteSelection();
     // The selection as a picture for the clipboard; a null image without a selection.
-    QImage copySelection();
+    QImage CopySelection();
     struct CutResult {
         QImage picture;
         Events events = kNoEvent;
     };
     CutResult cut();
-    // Pastes a picture as a floating selection at the top-left corner. `fit` is the dialog's
-    // answer, read only when pasteNeedsDialog() says the dialog was shown.
-    Events paste(const QImage& picture, bool opaque, PasteFit fit = PasteFit::Proportional);
+    // Pastes the clipboard's picture as a floating selection at the top-left corner. `fit` is the
+    // dialog's answer, read only when pasteNeedsDialog() says the dialog was shown.
+    Events PasteClipboard(const QImage& picture, bool opaque,
+                          PasteFit fit = PasteFit::Proportional);
 
     // --- Effects --------------------------------------------------------------------------
     // By their pad index: flips 3 (left–right) and 4 (top–bottom); quarter turns 5 (left) and 6

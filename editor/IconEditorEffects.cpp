@@ -93,13 +93,13 @@ Events IconEditor::negative() {
 }
 
 Events IconEditor::buttonEffect() {
-    const Events events = dropSelection();
+    const Events events = DropSelection();
     effects::buttonEffect(m_planes);
     return events | commit();
 }
 
 effects::ColourAdjuster IconEditor::beginColourAdjustment(icon::Colour previewBackground) {
-    dropSelection();
+    DropSelection();
     return effects::ColourAdjuster(m_planes, previewBackground);
 }
 
@@ -109,7 +109,7 @@ Events IconEditor::applyColourAdjustment(const effects::ColourAdjuster& adjuster
 }
 
 Events IconEditor::applyBackground(const icon::Frame& picture) {
-    const Events events = dropSelection();
+    const Events events = DropSelection();
     effects::applyBackground(m_planes, picture);
     return events | commit();
 }

@@ -68,7 +68,7 @@ void IconEditor::moveSelectionTo(int x, int y) {
     m_rect = {x - m_offsets[0], y - m_offsets[1], x + m_offsets[2], y + m_offsets[3]};
 }
 
-Events IconEditor::dropSelection() {
+Events IconEditor::DropSelection() {
     if (m_selection == SelectionState::None)
         return kNoEvent;
     const bool floating = m_selection == SelectionState::Floating;
@@ -82,8 +82,8 @@ Events IconEditor::dropSelection() {
     return commit();
 }
 
-Events IconEditor::selectAll() {
-    Events events = dropSelection();
+Events IconEditor::SelectAll() {
+    Events events = DropSelection();
     if (m_tool != Tool::Selection)
         events |= selectTool(Tool::Selection);
     m_rect = {0, 0, kCanvasSize, kCanvasSize};
@@ -92,7 +92,7 @@ Events IconEditor::selectAll() {
     return events | kRedraw;
 }
 
-Events IconEditor::deleteSelection() {
+Events IconEditor::DeleteSelection() {
     if (m_selection == SelectionState::Drawn) {
         const int left = m_rect.left / kCellSize, top = m_rect.top / kCellSize;
         for (int y = top; y < m_rect.bottom / kCellSize; ++y)
@@ -109,7 +109,7 @@ Events IconEditor::deleteSelection() {
     return commit();
 }
 
-QImage IconEditor::copySelection() {
+QImage IconEditor::CopySelection() {
     if (m_selection == SelectionState::None)
         return {};
     if (m_selection == SelectionState::Drawn)
@@ -122,16 +122,16 @@ IconEditor::CutResult IconEditor::cut() {
     if (m_selection == SelectionState::None)
         return {};
     CutResult result;
-    result.picture = copySelection();
-    result.events = deleteSelection();
+    result.picture = CopySelection();
+    result.events = DeleteSelection();
     return result;
 }
 
-Events IconEditor::paste(const QImage& picture, bool opaque, PasteFit fit) {
+Events IconEditor::PasteClipboard(const QImage& picture, bool opaque, PasteFit fit) {
     if (picture.isNull())
         return kNoEvent;
     const QSize size = pasteSize(picture.size(), fit);
-    const Events events = dropSelection();
+    const Events events = DropSelection();
     m_buffers = pictureToBlock(picture, size, opaque);
     // The picture lands at the top-left corner of the canvas.
     m_rect = {0, 0, size.width() * kCellSize, size.height() * kCellSize};

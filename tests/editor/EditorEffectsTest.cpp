@@ -93,7 +93,7 @@ TEST(EditorEffects, OnTheWholeIconEachIsOneStepThatUndoRestores) {
             EXPECT_NE(e.planes(), patternedIcon()) << c.name;
             EXPECT_EQ(e.history().undoCount(), 2u) << c.name;
             EXPECT_TRUE(e.isModified()) << c.name;
-            e.undo();
+            e.Undo();
             EXPECT_EQ(e.planes(), patternedIcon()) << c.name;
         }
 }
@@ -191,7 +191,7 @@ TEST(EditorEffects, WholeIconEffectsStampAFloatingSelectionFirst) {
         IconEditor e;
         QImage red(3, 3, QImage::Format_RGB32);
         red.fill(Qt::red);
-        e.paste(red, true);
+        e.PasteClipboard(red, true);
         c.run(e);
         EXPECT_EQ(e.selectionState(), SelectionState::None) << c.name;
         EXPECT_FALSE(e.planes().isTransparent(1, 1)) << c.name;

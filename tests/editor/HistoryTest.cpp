@@ -20,17 +20,17 @@ icon::IconPlanes withPixel(int x, icon::Colour c) {
 
 TEST(History, UndoOfTheBaseMovesItAcrossAndFails) {
     History h;
-    h.push(withPixel(0, 1));
+    h.PushSnapshot(withPixel(0, 1));
     EXPECT_EQ(h.counter(), 1);
-    EXPECT_FALSE(h.undo());
+    EXPECT_FALSE(h.Undo());
     EXPECT_EQ(h.undoCount(), 0u);
     EXPECT_EQ(h.redoCount(), 1u);
-    EXPECT_FALSE(h.undo()); // nothing left at all
+    EXPECT_FALSE(h.Undo()); // nothing left at all
     // The redo brings the base back.
-    const auto back = h.redo();
+    const auto back = h.Redo();
     ASSERT_TRUE(back);
     EXPECT_EQ(*back, withPixel(0, 1));
-    EXPECT_FALSE(h.redo());
+    EXPECT_FALSE(h.Redo());
 }
 
 TEST(EditorHistory, ThreeStrokesUndoneAndRedone) {
@@ -43,20 +43,20 @@ TEST(EditorHistory, ThreeStrokesUndoneAndRedone) {
         states.push_back(e.planes());
     }
     for (int i = 2; i >= 0; --i) {
-        EXPECT_EQ(e.undo(), editor::kRedraw);
+        EXPECT_EQ(e.Undo(), editor::kRedraw);
         EXPECT_EQ(e.planes(), states[i]);
     }
-    EXPECT_EQ(e.undo(), editor::kHistoryFailed);
+    EXPECT_EQ(e.Undo(), editor::kHistoryFailed);
     EXPECT_EQ(e.planes(), states[0]);
     // The failed undo moved the base across: the first redo restores it and the next three
     // give the strokes back in order.
-    EXPECT_EQ(e.redo(), editor::kRedraw);
+    EXPECT_EQ(e.Redo(), editor::kRedraw);
     EXPECT_EQ(e.planes(), states[0]);
     for (int i = 1; i <= 3; ++i) {
-        e.redo();
+        e.Redo();
         EXPECT_EQ(e.planes(), states[i]);
     }
-    EXPECT_EQ(e.redo(), editor::kHistoryFailed);
+    EXPECT_EQ(e.Redo(), editor::kHistoryFailed);
 }
 
 TEST(EditorHistory, ANewStrokeEmptiesTheRedoStack) {
@@ -64,12 +64,12 @@ TEST(EditorHistory, ANewStrokeEmptiesTheRedoStack) {
     e.selectTool(Tool::Pencil);
     click(e, 1, 1, 1);
     click(e, 1, 2, 2);
-    e.undo();
-    e.undo();
+    e.Undo();
+    e.Undo();
     EXPECT_EQ(e.history().redoCount(), 2u);
     click(e, 1, 3, 3);
     EXPECT_EQ(e.history().redoCount(), 0u);
-    EXPECT_EQ(e.redo(), editor::kHistoryFailed);
+    EXPECT_EQ(e.Redo(), editor::kHistoryFailed);
 }
 
 TEST(EditorHistory, EveryStateIsKept) {
@@ -80,7 +80,7 @@ TEST(EditorHistory, EveryStateIsKept) {
         click(e, 1 + i % 2, i % 32, i / 32);
     EXPECT_EQ(e.history().undoCount(), 201u);
     for (int i = 0; i < 200; ++i)
-        ASSERT_EQ(e.undo(), editor::kRedraw) << i;
+        ASSERT_EQ(e.Undo(), editor::kRedraw) << i;
     EXPECT_EQ(e.planes(), blank);
 }
 
@@ -93,6 +93,6 @@ TEST(EditorHistory, LoadingBasesTheHistoryOnTheOpenedIcon) {
     EXPECT_EQ(e.history().counter(), 1);
     EXPECT_FALSE(e.isModified());
     EXPECT_EQ(*e.history().current(), editortest::patternedIcon());
-    EXPECT_EQ(e.undo(), editor::kHistoryFailed);
+    EXPECT_EQ(e.Undo(), editor::kHistoryFailed);
     EXPECT_EQ(e.planes(), editortest::patternedIcon());
 }

@@ -40,7 +40,7 @@ TEST(Paste, StretchesByDroppingPixels) {
         for (int y = 0; y < 2; ++y)
             picture.setPixel(x, y, x % 2 ? qRgb(0, 0, 255) : qRgb(255, 0, 0));
     IconEditor e;
-    e.paste(picture, true, PasteFit::Proportional);
+    e.PasteClipboard(picture, true, PasteFit::Proportional);
     ASSERT_EQ(e.selectionBuffers().width(), 32);
     ASSERT_EQ(e.selectionBuffers().height(), 1);
     for (int x = 0; x < 32; ++x)
@@ -60,7 +60,7 @@ TEST(Paste, TransparentPasteHolesTheBackgroundAndLowAlpha) {
     } cases[] = {{false, {true, false, true, false}}, {true, {false, false, false, false}}};
     for (const auto& c : cases) {
         IconEditor e;
-        e.paste(picture, c.opaque);
+        e.PasteClipboard(picture, c.opaque);
         EXPECT_EQ(e.selectionState(), SelectionState::Floating);
         const icon::IconBitmap& b = e.selectionBuffers();
         for (int x = 0; x < 4; ++x) {
@@ -78,16 +78,16 @@ TEST(Paste, TransparentPasteHolesTheBackgroundAndLowAlpha) {
 TEST(Paste, CopiedSelectionComesBackWithItsHoles) {
     IconEditor e;
     e.loadIcon(editortest::patternedIcon());
-    e.selectAll();
-    const QImage copy = e.copySelection();
+    e.SelectAll();
+    const QImage copy = e.CopySelection();
     e.newIcon();
-    e.paste(copy, false);
-    e.dropSelection();
+    e.PasteClipboard(copy, false);
+    e.DropSelection();
     EXPECT_EQ(e.planes(), editortest::patternedIcon());
 }
 
 TEST(Paste, NothingToPasteChangesNothing) {
     IconEditor e;
-    EXPECT_EQ(e.paste(QImage(), false), editor::kNoEvent);
+    EXPECT_EQ(e.PasteClipboard(QImage(), false), editor::kNoEvent);
     EXPECT_EQ(e.selectionState(), SelectionState::None);
 }

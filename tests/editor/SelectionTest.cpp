@@ -73,14 +73,14 @@ TEST(Selection, MovingFloatsItAndDroppingStampsItInOneStep) {
     EXPECT_EQ(e.displayedPlanes().image.at(5, 7), 0x111111u);
     EXPECT_EQ(e.history().undoCount(), 1u);
 
-    EXPECT_EQ(e.dropSelection(), editor::kRedraw);
+    EXPECT_EQ(e.DropSelection(), editor::kRedraw);
     EXPECT_EQ(e.selectionState(), SelectionState::None);
     EXPECT_EQ(e.planes().image.at(5, 7), 0x111111u);
     EXPECT_EQ(e.planes().image.at(6, 7), 0x222222u);
     EXPECT_TRUE(e.planes().isTransparent(5, 8));
     EXPECT_EQ(e.planes().image.at(1, 1), 0x111111u); // lifting copies
     EXPECT_EQ(e.history().undoCount(), 2u);
-    e.undo();
+    e.Undo();
     EXPECT_EQ(e.planes(), icon);
 }
 
@@ -92,7 +92,7 @@ TEST(Selection, AMovedPictureIsClippedAtTheCanvasEdges) {
     e.move(1, 315, 315); // the grab point snaps to (320, 320)
     e.release(1, 315, 315);
     EXPECT_EQ(e.selectionRect(), (CanvasRect{300, 300, 340, 340}));
-    e.dropSelection();
+    e.DropSelection();
     EXPECT_EQ(e.planes().image.at(30, 31), patternedIcon().image.at(0, 1));
     EXPECT_EQ(e.planes().image.at(31, 31), patternedIcon().image.at(1, 1));
 }
@@ -101,7 +101,7 @@ TEST(Selection, StartingANewSelectionDropsTheOldOne) {
     IconEditor e;
     QImage red(2, 2, QImage::Format_RGB32);
     red.fill(Qt::red);
-    e.paste(red, true);
+    e.PasteClipboard(red, true);
     EXPECT_EQ(e.selectionState(), SelectionState::Floating);
     e.selectTool(Tool::Selection);
     e.press(1, 200, 200);
@@ -116,7 +116,7 @@ TEST(Selection, SelectAllTakesTheWholeCanvas) {
     IconEditor e;
     e.loadIcon(patternedIcon());
     e.selectTool(Tool::Pencil);
-    EXPECT_EQ(e.selectAll() & editor::kToolChanged, editor::kToolChanged);
+    EXPECT_EQ(e.SelectAll() & editor::kToolChanged, editor::kToolChanged);
     EXPECT_EQ(e.tool(), Tool::Selection);
     EXPECT_EQ(e.selectionRect(), (CanvasRect{0, 0, 320, 320}));
     EXPECT_EQ(e.selectionState(), SelectionState::Drawn);
@@ -127,7 +127,7 @@ TEST(Selection, DeleteClearsTheRectangleAndRecordsOneStep) {
     IconEditor e;
     e.loadIcon(patternedIcon());
     drawSelection(e, 2, 2, 5, 4);
-    e.deleteSelection();
+    e.DeleteSelection();
     for (int y = 0; y < 32; ++y)
         for (int x = 0; x < 32; ++x) {
             const bool inside = x >= 2 && x < 5 && y >= 2 && y < 4;
@@ -142,19 +142,19 @@ TEST(Selection, DeleteClearsTheRectangleAndRecordsOneStep) {
     EXPECT_TRUE(e.isModified());
     // Without a selection the command still records its step.
     IconEditor plain;
-    plain.deleteSelection();
+    plain.DeleteSelection();
     EXPECT_EQ(plain.history().undoCount(), 2u);
 }
 
 TEST(Selection, CopyAndCutGiveThePictureOverWhite) {
     IconEditor e;
     e.loadIcon(patternedIcon());
-    EXPECT_TRUE(e.copySelection().isNull());
+    EXPECT_TRUE(e.CopySelection().isNull());
     EXPECT_TRUE(e.cut().picture.isNull());
     EXPECT_EQ(e.history().undoCount(), 1u);
 
     drawSelection(e, 0, 0, 3, 2);
-    const QImage copy = e.copySelection();
+    const QImage copy = e.CopySelection();
     ASSERT_EQ(copy.size(), QSize(3, 2));
     EXPECT_EQ(copy.pixel(0, 0), qRgb(255, 255, 255)); // pixel 0 is transparent
     const icon::Colour c = patternedIcon().image.at(1, 0);
@@ -172,14 +172,14 @@ TEST(Selection, UndoFromThePadStampsAFloatingPictureFirst) {
     QImage red(2, 2, QImage::Format_RGB32);
     red.fill(Qt::red);
     IconEditor pad;
-    pad.paste(red, true);
-    EXPECT_EQ(pad.undo(true), editor::kRedraw);
+    pad.PasteClipboard(red, true);
+    EXPECT_EQ(pad.Undo(true), editor::kRedraw);
     EXPECT_EQ(pad.selectionState(), SelectionState::None);
     EXPECT_EQ(pad.planes(), icon::IconPlanes::blank());
     EXPECT_EQ(pad.history().redoCount(), 1u);
     // From the keyboard: the picture keeps floating and the undo goes back past the base.
     IconEditor keys;
-    keys.paste(red, true);
-    EXPECT_EQ(keys.undo(), editor::kHistoryFailed);
+    keys.PasteClipboard(red, true);
+    EXPECT_EQ(keys.Undo(), editor::kHistoryFailed);
     EXPECT_EQ(keys.selectionState(), SelectionState::Floating);
 }

@@ -176,7 +176,7 @@ TEST(Figures, EveryFigureToolRecordsOneStep) {
         stroke(e, 1, {{1, 1}, {5, 3}, {8, 8}});
         EXPECT_EQ(e.history().undoCount(), 2u) << t;
         EXPECT_GT(opaqueCount(e.planes()), 0) << t;
-        EXPECT_EQ(e.undo(), editor::kRedraw);
+        EXPECT_EQ(e.Undo(), editor::kRedraw);
         EXPECT_EQ(e.planes(), icon::IconPlanes::blank());
     }
 }
