@@ -9,7 +9,7 @@ using icon::Colour;
 using icon::IconPlanes;
 
 IconEditor::IconEditor() {
-    newIcon();
+    NewIcon();
 }
 
 Events IconEditor::commit() {
@@ -19,7 +19,7 @@ Events IconEditor::commit() {
     return kRedraw;
 }
 
-Events IconEditor::newIcon() {
+Events IconEditor::NewIcon() {
     m_planes = IconPlanes::blank();
     m_selection = SelectionState::None;
     m_framing = m_moving = false;
@@ -36,7 +36,7 @@ Events IconEditor::newIcon() {
 }
 
 Events IconEditor::loadIcon(const IconPlanes& planes) {
-    const Events events = newIcon();
+    const Events events = NewIcon();
     // The opened icon takes the place of the blank one as the base of the history.
     m_planes = planes;
     m_history.ClearHistory();

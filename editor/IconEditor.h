@@ -54,7 +54,7 @@ public:
     void setModified(bool modified) { m_modified = modified; }
     // A blank, fully transparent icon: selection gone, first tool, black and white buttons,
     // history cleared and based on the blank icon.
-    Events newIcon();
+    Events NewIcon();
     // An opened icon: as a new icon, then the history is based on the opened planes.
     Events loadIcon(const icon::IconPlanes& planes);
     // A change made outside the tools (a capture): the planes are replaced and recorded.
@@ -122,7 +122,7 @@ public:
         QImage picture;
         Events events = kNoEvent;
     };
-    CutResult cut();
+    CutResult Cut();
     // Pastes the clipboard's picture as a floating selection at the top-left corner. `fit` is the
     // dialog's answer, read only when pasteNeedsDialog() says the dialog was shown.
     Events PasteClipboard(const QImage& picture, bool opaque,

@@ -117,7 +117,7 @@ QImage IconEditor::CopySelection() {
     return blockToPicture(m_buffers);
 }
 
-IconEditor::CutResult IconEditor::cut() {
+IconEditor::CutResult IconEditor::Cut() {
     // Without a selection there is nothing to cut: nothing is copied and nothing recorded.
     if (m_selection == SelectionState::None)
         return {};

@@ -60,7 +60,7 @@ TEST(Palette, ReleasesSetTheButtonColours) {
     EXPECT_EQ(e.palette().at(34), 0x123456u);
     EXPECT_EQ(e.buttonColour(0), 0x123456u);
 
-    e.newIcon();
+    e.NewIcon();
     EXPECT_EQ(e.buttonColour(0), icon::kBlack);
     EXPECT_EQ(e.buttonColour(1), icon::kWhite);
     EXPECT_EQ(e.palette().at(34), 0x123456u); // kept until the window loads again

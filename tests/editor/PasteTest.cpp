@@ -80,7 +80,7 @@ TEST(Paste, CopiedSelectionComesBackWithItsHoles) {
     e.loadIcon(editortest::patternedIcon());
     e.SelectAll();
     const QImage copy = e.CopySelection();
-    e.newIcon();
+    e.NewIcon();
     e.PasteClipboard(copy, false);
     e.DropSelection();
     EXPECT_EQ(e.planes(), editortest::patternedIcon());

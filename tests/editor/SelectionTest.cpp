@@ -150,7 +150,7 @@ TEST(Selection, CopyAndCutGiveThePictureOverWhite) {
     IconEditor e;
     e.loadIcon(patternedIcon());
     EXPECT_TRUE(e.CopySelection().isNull());
-    EXPECT_TRUE(e.cut().picture.isNull());
+    EXPECT_TRUE(e.Cut().picture.isNull());
     EXPECT_EQ(e.history().undoCount(), 1u);
 
     drawSelection(e, 0, 0, 3, 2);
@@ -161,7 +161,7 @@ TEST(Selection, CopyAndCutGiveThePictureOverWhite) {
     EXPECT_EQ(copy.pixel(1, 0), qRgb(icon::redOf(c), icon::greenOf(c), icon::blueOf(c)));
     EXPECT_EQ(e.history().undoCount(), 1u);
 
-    const auto cut = e.cut();
+    const auto cut = e.Cut();
     EXPECT_EQ(cut.picture, copy);
     EXPECT_TRUE(e.planes().isTransparent(1, 0));
     EXPECT_EQ(e.history().undoCount(), 2u);
