@@ -4,12 +4,6 @@
 
 namespace effects {
 
-bool Kaleidoscope::pixelOf(int px, int py, int& column, int& row) {
-    column = 16 + px;
-    row = 16 - py;
-    return column >= 0 && column < 32 && row >= 0 && row < 32;
-}
-
 icon::Frame Kaleidoscope::generate(int density, icon::Colour background, UniformGenerator& random) {
     icon::Frame preview(32, 32, background);
     for (int i = 0; i < density; ++i) {

@@ -18,7 +18,11 @@ public:
 
     // The preview pixel of a point, or false when the point falls outside the preview
     // (X = 16 or Y = −16).
-    static bool pixelOf(int px, int py, int& column, int& row);
+    static bool pixelOf(int px, int py, int& column, int& row) {
+        column = 16 + px;
+        row = 16 - py;
+        return column >= 0 && column < 32 && row >= 0 && row < 32;
+    }
 
     // A plain preview of the background colour, then `density` passes; each pass draws x, y
     // and then the colour from the generator and sets its eight mirrored points.
