@@ -48,11 +48,13 @@ IconBitmap pictureToBlock(const QImage& picture, QSize size, bool opaque) {
     IconBitmap block{Frame(w, h, icon::kBlack), Frame(w, h, icon::kWhite)};
     if (picture.isNull() || w <= 0 || h <= 0)
         return block;
-    const QImage source = picture.convertToFormat(QImage::Format_ARGB32);
-    const int sw = source.width(), sh = source.height();
+    const int sw = picture.width(), sh = picture.height();
     for (int y = 0; y < h; ++y) {
+        // Only the rows that are kept are converted: a screen-sized picture is never copied
+        // whole for the few pixels the icon takes from it.
         const int sy = static_cast<int>(static_cast<long long>(y) * sh / h);
-        const auto* line = reinterpret_cast<const QRgb*>(source.constScanLine(sy));
+        const QImage row = picture.copy(0, sy, sw, 1).convertToFormat(QImage::Format_ARGB32);
+        const auto* line = reinterpret_cast<const QRgb*>(row.constScanLine(0));
         for (int x = 0; x < w; ++x) {
             const QRgb pixel = line[static_cast<long long>(x) * sw / w];
             const icon::Colour colour = icon::rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));

@@ -75,6 +75,23 @@ TEST(Paste, TransparentPasteHolesTheBackgroundAndLowAlpha) {
     }
 }
 
+TEST(Paste, ReadsPicturesOfAnyFormat) {
+    QImage premultiplied(2, 1, QImage::Format_ARGB32_Premultiplied);
+    premultiplied.setPixel(0, 0, qRgba(0, 0, 0, 0));
+    premultiplied.setPixel(1, 0, qRgba(200, 100, 50, 255));
+    QImage indexed(2, 1, QImage::Format_Indexed8);
+    indexed.setColorTable({qRgb(255, 255, 255), qRgb(200, 100, 50)});
+    indexed.setPixel(0, 0, 0);
+    indexed.setPixel(1, 0, 1);
+    for (const QImage& picture : {premultiplied, indexed}) {
+        IconEditor e;
+        e.PasteClipboard(picture, false);
+        EXPECT_TRUE(icon::isTransparentMask(e.selectionBuffers().mask.at(0, 0)))
+            << picture.format();
+        EXPECT_EQ(e.selectionBuffers().image.at(1, 0), icon::rgb(200, 100, 50)) << picture.format();
+    }
+}
+
 TEST(Paste, CopiedSelectionComesBackWithItsHoles) {
     IconEditor e;
     e.loadIcon(editortest::patternedIcon());
