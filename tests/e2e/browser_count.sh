@@ -20,7 +20,7 @@ cd "$work/icônes"
 HOME="$work/home" XDG_CONFIG_HOME="$work/home/.config" XDG_DATA_HOME="$work/home/.local/share" \
 XDG_RUNTIME_DIR="$work/run" ORVANNE_REPORT_FILE="$work/report.txt" "$program" &
 pid=\$!
-for _ in \$(seq 100); do
+for _ in \$(seq 300); do
     [ -s "$work/report.txt" ] && break
     sleep 0.1
 done

@@ -15,7 +15,7 @@ cd "$work/empty"
 export HOME="$work/home" XDG_CONFIG_HOME="$work/home/.config" XDG_RUNTIME_DIR="$work/run"
 ORVANNE_REPORT_FILE="$work/first.txt" "$program" &
 first=\$!
-for _ in \$(seq 100); do [ -s "$work/first.txt" ] && break; sleep 0.1; done
+for _ in \$(seq 300); do [ -s "$work/first.txt" ] && break; sleep 0.1; done
 "$program" &
 second=\$!
 window=\$(timeout 20 xdotool search --sync --pid \$second | head -1)

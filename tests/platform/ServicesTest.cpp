@@ -1,5 +1,6 @@
 #include "platform/Services.h"
 #include "platform/AlsaSound.h"
+#include "platform/HelpViewer.h"
 #include "platform/QtDialogs.h"
 #include "platform/ScriptedDialogs.h"
 #include "platform/SingleInstance.h"
@@ -8,6 +9,7 @@
 
 #include "icon/FileBytes.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
@@ -15,6 +17,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 
 #include <gtest/gtest.h>
 
@@ -154,6 +157,29 @@ TEST(AlsaSound, PlayingWithoutASoundDeviceReturnsAndDoesNothing) {
     for (int i = 0; i < 3; ++i)
         sound.playClick();
     SUCCEED();
+}
+
+TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
+    QTemporaryDir data;
+    qputenv("ORVANNE_DATA_DIR", data.path().toUtf8());
+    const bool installedHelp = !platform::HelpViewer::helpFolder().isEmpty();
+    QDir(data.path()).mkpath(QStringLiteral("help"));
+    QFile page(data.filePath(QStringLiteral("help/index.html")));
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.write("<html><body><h1>Aide de Orvanne</h1><p>Le visualiseur.</p></body></html>");
+    page.close();
+    EXPECT_EQ(platform::HelpViewer::helpFolder(), data.filePath(QStringLiteral("help")));
+    EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
+    QTextBrowser* viewer = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        viewer = viewer ? viewer : qobject_cast<QTextBrowser*>(w);
+    ASSERT_NE(viewer, nullptr);
+    EXPECT_TRUE(viewer->isVisible());
+    EXPECT_TRUE(viewer->toPlainText().contains(QStringLiteral("Le visualiseur.")));
+    viewer->close();
+    qunsetenv("ORVANNE_DATA_DIR");
+    if (!installedHelp)
+        EXPECT_FALSE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
 }
 
 } // namespace

@@ -184,6 +184,20 @@ TEST_F(FenPrinFixture, TheCentrePictureHandsTheRealPathToTheEditor) {
     EXPECT_EQ(m_window->pathText(), QDir(folder).filePath(QStringLiteral("grand.ico")).toLower());
 }
 
+TEST_F(FenPrinFixture, ADoubleClickOnTheCentreReadsItsFileAgain) {
+    const QString folder = iconFolder(3);
+    m_window->openFolder(folder);
+    const int before = m_fake.decoded;
+    QWidget* centre = control("Picture24");
+    QTest::mouseDClick(centre, Qt::LeftButton);
+    EXPECT_EQ(m_fake.decoded, before + 1);
+    EXPECT_TRUE(m_dialogs.asked().empty());
+    QFile::remove(QDir(folder).filePath(QStringLiteral("icon0001.ico")));
+    QTest::mouseDClick(centre, Qt::LeftButton);
+    ASSERT_EQ(m_dialogs.asked().size(), 1u);
+    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Fichier non trouvé"));
+}
+
 class RealIconsFenPrin : public FenPrinFixture {
 protected:
     const browser::ThumbnailProvider& provider() override { return m_real; }
