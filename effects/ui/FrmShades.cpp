@@ -60,13 +60,13 @@ FrmShades::FrmShades(QWidget* parent)
         const int top = kBarsTop + (i % 3) * kBarPitch;
         const QRect& swatch = start ? kStartSwatch : kEndSwatch;
 
-        m_bars[index] = new QScrollBar(Qt::Horizontal, this);
-        m_bars[index]->setObjectName(QStringLiteral("Hsb%1").arg(i));
-        m_bars[index]->setRange(0, 255);
-        m_bars[index]->setPageStep(16);
-        m_bars[index]->setValue(m_preview.bar(i));
-        m_bars[index]->setGeometry(swatch.left(), top, swatch.width(), kBarHeight);
-        connect(m_bars[index], &QScrollBar::valueChanged, this,
+        auto* bar = new QScrollBar(Qt::Horizontal, this);
+        bar->setObjectName(QStringLiteral("Hsb%1").arg(i));
+        bar->setRange(0, 255);
+        bar->setPageStep(16);
+        bar->setValue(m_preview.bar(i));
+        bar->setGeometry(swatch.left(), top, swatch.width(), kBarHeight);
+        connect(bar, &QScrollBar::valueChanged, this,
                 [this, i](int value) { barChanged(i, value); });
 
         // The start colour's values stand to the left of its bars, the end colour's to the

@@ -7,7 +7,6 @@
 #include <array>
 
 class QLabel;
-class QScrollBar;
 
 namespace editor {
 class IconEditor;
@@ -50,7 +49,6 @@ private:
 
     GradientPreview m_preview;
     PreviewPicture* m_picture = nullptr;
-    std::array<QScrollBar*, GradientPreview::kBars> m_bars{};
     std::array<QLabel*, GradientPreview::kBars> m_values{};
     QLabel* m_degrees = nullptr;
 };

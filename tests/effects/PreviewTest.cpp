@@ -1,12 +1,10 @@
 #include "effects/Gradient.h"
 #include "effects/GradientPreview.h"
-#include "effects/KaleidoscopePreview.h"
 
 #include <gtest/gtest.h>
 
 using effects::Gradient;
 using effects::GradientPreview;
-using effects::KaleidoscopePreview;
 using icon::Frame;
 
 TEST(GradientPreview, ChannelBarsLeaveTheLastDrawingInPlace) {
@@ -31,24 +29,4 @@ TEST(GradientPreview, ChannelBarsLeaveTheLastDrawingInPlace) {
               Gradient::render(icon::rgb(255, 255, 0), icon::rgb(255, 255, 0), 135));
     preview.setDirection(12);
     EXPECT_EQ(preview.angle(), 360);
-}
-
-TEST(KaleidoscopePreview, ABackColourClearsThePatternAndTheDensityStaysInItsRange) {
-    effects::StdUniformGenerator random(7);
-    KaleidoscopePreview preview(0xD2D200);
-    EXPECT_EQ(preview.density(), 250);
-    EXPECT_EQ(preview.picture(), Frame(32, 32, 0xD2D200));
-
-    preview.generate(random);
-    EXPECT_NE(preview.picture(), Frame(32, 32, 0xD2D200));
-    // The same colour again still wipes the pattern, as a cancelled colour dialog does.
-    preview.setBackground(0xD2D200);
-    EXPECT_EQ(preview.picture(), Frame(32, 32, 0xD2D200));
-    preview.setBackground(icon::kBlack);
-    EXPECT_EQ(preview.picture(), Frame(32, 32, icon::kBlack));
-
-    for (const auto& [asked, kept] : {std::pair{0, 10}, {10, 10}, {370, 370}, {510, 500}}) {
-        preview.setDensity(asked);
-        EXPECT_EQ(preview.density(), kept) << asked;
-    }
 }
