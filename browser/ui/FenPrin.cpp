@@ -14,6 +14,7 @@
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
+#include "shell/DataFiles.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -48,6 +49,11 @@ FenPrin::FenPrin(const ThumbnailProvider& provider, QWidget* parent)
 
     // What the main window reads while it loads: colours, grid view, help bubbles.
     preferences() = shell::Preferences::load(shell::Settings());
+    shell::AppState& state = shell::appState();
+    const QString library = shell::DataFiles::find(state.iconLibraryName);
+    state.iconLibraryPath =
+        library.isEmpty() ? shell::DataFiles::expected(state.iconLibraryName) : library;
+    state.helpFile = shell::DataFiles::find(QStringLiteral("help/index.html"));
     m_grid.setView(preferences().icons48 ? GridView::Icons48 : GridView::Icons32);
 
     buildTitleRow();
