@@ -18,6 +18,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -150,6 +151,30 @@ TEST(AlsaSound, TheClickIsAShortWaveAndBrokenFilesAreRefused) {
     eightBit[34] = 8;
     platform::AlsaSound::Wave w;
     EXPECT_FALSE(platform::AlsaSound::parseWave(eightBit, w));
+}
+
+TEST(AlsaSound, TheClickReachesTheSoundDevice) {
+    // The user's ALSA configuration (in the test's private home) sends the sound to a file.
+    const QString home = QDir::homePath();
+    const QString output = home + QStringLiteral("/clic.raw");
+    QFile config(home + QStringLiteral("/.asoundrc"));
+    ASSERT_TRUE(config.open(QIODevice::WriteOnly));
+    config.write("pcm.!default { type file; slave.pcm \"null\"; file \"" + output.toUtf8() +
+                 "\"; format \"raw\" }\n");
+    config.close();
+    const auto bytes = icon::readFileBytes(shell::DataFiles::find(QStringLiteral("clic.wav")));
+    ASSERT_TRUE(bytes);
+    platform::AlsaSound::Wave wave;
+    ASSERT_TRUE(platform::AlsaSound::parseWave(*bytes, wave));
+    const qint64 expected = static_cast<qint64>(wave.samples.size() * 2);
+
+    platform::AlsaSound sound;
+    sound.playClick();
+    QFile played(output);
+    for (int i = 0; i < 250 && played.size() < expected; ++i)
+        QThread::msleep(20);
+    EXPECT_EQ(played.size(), expected) << "every sample of the click, 16 bits each";
+    QFile::remove(config.fileName());
 }
 
 TEST(AlsaSound, PlayingWithoutASoundDeviceReturnsAndDoesNothing) {
