@@ -27,6 +27,17 @@ TEST_F(FenPrinFixture, TheWindowHasItsSizeAndShowsTheFolderCountAndPath) {
     EXPECT_TRUE(button("DeplaceHaut")->isEnabled());
 }
 
+TEST_F(FenPrinFixture, ChoosingADriveOpensItsRoot) {
+    m_window->openFolder(iconFolder(4));
+    auto* drives = m_window->findChild<QComboBox*>(QStringLiteral("Lecteur"));
+    ASSERT_EQ(drives->itemData(0).toString(), QStringLiteral("/"));
+    emit drives->activated(0);
+    EXPECT_EQ(m_window->grid().folder(), QStringLiteral("/"));
+    auto* list = m_window->findChild<QListWidget*>(QStringLiteral("Repertoire"));
+    EXPECT_EQ(list->currentItem()->text(), QStringLiteral("/"));
+    EXPECT_TRUE(m_dialogs.asked().empty());
+}
+
 TEST_F(FenPrinFixture, AnEmptyFolderDisablesTheFileCommandsAndTheMoves) {
     m_window->openFolder(iconFolder(5));
     m_window->openFolder(iconFolder(0));
