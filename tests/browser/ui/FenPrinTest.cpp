@@ -11,6 +11,7 @@
 namespace {
 
 using browsertest::FenPrinFixture;
+using browsertest::RealIconsFenPrin;
 using platform::Asked;
 
 TEST_F(FenPrinFixture, TheWindowHasItsSizeAndShowsTheFolderCountAndPath) {
@@ -208,12 +209,6 @@ TEST_F(FenPrinFixture, ADoubleClickOnTheCentreReadsItsFileAgain) {
     ASSERT_EQ(m_dialogs.asked().size(), 1u);
     EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Fichier non trouvé"));
 }
-
-class RealIconsFenPrin : public FenPrinFixture {
-protected:
-    const browser::ThumbnailProvider& provider() override { return m_real; }
-    browser::IcoThumbnailProvider m_real;
-};
 
 TEST_F(RealIconsFenPrin, ShowsRealIconsAt32And48) {
     const QString folder = realIconFolder();

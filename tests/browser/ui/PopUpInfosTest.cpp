@@ -145,9 +145,11 @@ TEST_F(PopUpInfosTest, AboutIsAskedForFromThePanel) {
     EXPECT_EQ(about.count(), 1);
 }
 
-TEST_F(PopUpInfosTest, Screenshot) {
+using browsertest::RealIconsFenPrin;
+
+TEST_F(RealIconsFenPrin, PopUpInfosScreenshot) {
     m_window->openFolder(realIconFolder());
-    openPanel();
+    click("CmdApropos");
     testsupport::saveScreenshot(*m_window, QStringLiteral("PopUpInfos"));
 }
 
