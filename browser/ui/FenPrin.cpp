@@ -5,13 +5,10 @@
 #include "browser/FolderTree.h"
 #include "browser/ui/CentrePicture.h"
 #include "browser/ui/IconGridView.h"
-#include "browser/ui/MovePictures.h"
 #include "browser/ui/PopUpInfos.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
-#include "platform/HelpBubbles.h"
 #include "platform/Services.h"
-#include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 #include "shell/DataFiles.h"
@@ -21,9 +18,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QListWidget>
-#include <QPainter>
 #include <QStyle>
-#include <QStyledItemDelegate>
 
 namespace browser::ui {
 
