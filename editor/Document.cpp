@@ -163,7 +163,7 @@ void Document::handOver(const QString& path, OpenRequest who) {
 
 void Document::activate(const QString& currentFolder) {
     if (!currentFolder.isEmpty())
-        m_openFolder = currentFolder;
+        m_openFolder = QDir::cleanPath(currentFolder);
     const QString last = m_host.lastIcon();
     if (!m_requests.any())
         m_handedPath = last;

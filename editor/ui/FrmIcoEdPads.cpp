@@ -303,16 +303,7 @@ void FrmIcoEd::runMirrorOption(int index) {
 
 void FrmIcoEd::showSixteenMillionColours() {
     // A display of 24 bits or more already shows 16 million colours: the click says so.
-    if (platform::switchScreenDepth(kScreenDepthWanted)) {
-        platform::sound().playClick();
-        return;
-    }
-    platform::Message message;
-    message.title = QStringLiteral("Erreur");
-    message.text = QStringLiteral("Ce mode d'affichage n'est pas supporté. Veuillez vous "
-                                  "reporter à la documentation de votre carte graphique...");
-    message.icon = platform::MessageIcon::Critical;
-    platform::dialogs().message(message);
+    platform::changeDisplayDepth(kScreenDepthWanted);
 }
 
 void FrmIcoEd::showHelp(int context) {

@@ -13,9 +13,11 @@
 
 namespace shell::ui {
 
-Startup::Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds)
+Startup::Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds,
+                 const QString& commandLine)
     : m_provider(provider)
-    , m_splashMilliseconds(splashMilliseconds) {
+    , m_splashMilliseconds(splashMilliseconds)
+    , m_commandLine(commandLine) {
     connect(&m_splash, &Demarre2::timeUp, this, &Startup::showMainWindow);
 }
 
@@ -34,8 +36,10 @@ void Startup::showMainWindow() {
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         m_main->move(screen->availableGeometry().center() - m_main->rect().center());
     m_main->openFolder(QDir::currentPath());
+    m_editor.attach(*m_main);
     m_main->show();
     m_splash.close();
+    m_editor.openAtStart(m_commandLine);
     report();
     emit mainWindowShown();
     // The tips come last, over the main window once it is painted.
