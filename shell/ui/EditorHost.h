@@ -29,6 +29,8 @@ public:
     // The editor, loading it on first use.
     editor::ui::FrmIcoEd& editor();
     bool hasEditor() const { return m_editor != nullptr; }
+    // The editor's caption, empty before it exists.
+    QString caption() const { return m_editor ? m_editor->windowTitle() : QString(); }
     // `CmdEditer`: the editor comes up without a path.
     void bringUp();
     // The centre picture's right button: the path is handed to the editor's Fichier pad.

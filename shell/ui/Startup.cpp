@@ -60,7 +60,8 @@ void Startup::showAbout() {
 }
 
 // For scripts that start the program and check what it shows: with ORVANNE_REPORT_FILE set, the
-// main window's two texts are written to that file once it is on screen.
+// main window's two texts are written to that file once it is on screen, and the editor's
+// caption when it came up at start.
 void Startup::report() const {
     const QString path = qEnvironmentVariable("ORVANNE_REPORT_FILE");
     if (path.isEmpty() || !m_main)
@@ -68,8 +69,10 @@ void Startup::report() const {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return;
-    file.write(
-        ("NbrIco: " + m_main->countText() + "\nEtiquette1: " + m_main->pathText() + "\n").toUtf8());
+    QString text = "NbrIco: " + m_main->countText() + "\nEtiquette1: " + m_main->pathText() + "\n";
+    if (m_editor.hasEditor())
+        text += "FrmIcoEd: " + m_editor.caption() + "\n";
+    file.write(text.toUtf8());
 }
 
 } // namespace shell::ui
