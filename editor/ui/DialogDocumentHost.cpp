@@ -41,7 +41,9 @@ DocumentHost::Reply DialogDocumentHost::askToSave(const QString& text) {
 DocumentHost::Reply DialogDocumentHost::warnSeveralImages(const QString& text) {
     platform::Message message;
     message.title = QStringLiteral("Orvanne®");
-    message.text = text;
+    // The warning's lines end in carriage return and line feed; a message box breaks lines at
+    // the line feed alone.
+    message.text = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     message.icon = platform::MessageIcon::Information;
     message.buttons = platform::MessageButtons::OkCancel;
     return platform::dialogs().message(message) == platform::Answer::Ok ? Reply::Ok : Reply::Cancel;

@@ -199,6 +199,8 @@ void FrmIcoEd::bringUp(const QString& currentFolder) {
         show();
     raise();
     activateWindow();
+    // The letter keys reach the window itself.
+    setFocus();
 }
 
 void FrmIcoEd::handOver(const QString& path) {

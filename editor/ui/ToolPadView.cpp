@@ -3,6 +3,7 @@
 #include "editor/ui/Edges.h"
 #include "editor/ui/ToolPictures.h"
 #include "platform/WindowStyle.h"
+#include "shell/AppState.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -54,7 +55,9 @@ void ToolPadView::mousePressEvent(QMouseEvent* event) {
 
 void ToolPadView::mouseMoveEvent(QMouseEvent* event) {
     const auto tool = toolUnder(event->position());
-    setToolTip(tool ? QString::fromStdString(toolName(*tool)) : QString());
+    // The tool's name, unless help bubbles are off.
+    const bool bubbles = shell::appState().preferences.helpBubbles;
+    setToolTip(tool && bubbles ? QString::fromStdString(toolName(*tool)) : QString());
 }
 
 void ToolPadView::mouseReleaseEvent(QMouseEvent* event) {
