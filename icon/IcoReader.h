@@ -58,6 +58,15 @@ int chooseImage(const IcoDirectory& directory, int size);
 // preference (what decodeIcon falls back on when an image turns out undecodable).
 std::vector<int> rankImages(const IcoDirectory& directory, int size);
 
+// The image taken for `size`, decoded at its own size: the first in the order of rankImages that
+// decodes (only the first few distinct images are tried). Nothing when none decodes.
+struct ChosenImage {
+    int index = -1;
+    IconBitmap bitmap;
+};
+std::optional<ChosenImage> decodeChosenImage(std::span<const std::uint8_t> bytes,
+                                             const IcoDirectory& directory, int size);
+
 // The first icon of an ICO or CUR file, chosen for `size` and brought to size×size by dropping or
 // repeating pixels. Nothing when the file cannot be decoded.
 std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int size);

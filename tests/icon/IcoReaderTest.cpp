@@ -285,6 +285,23 @@ TEST(IcoReader, AnUndecodableFirstChoiceFallsBackOnTheNext) {
     const std::optional<IconPlanes> planes = decodeIconPlanes(file);
     ASSERT_TRUE(planes);
     EXPECT_EQ(planes->image.at(2, 2), expectedColour(24, 1, 1));
+
+    // A hundred entries pointing at the same broken image cost one try, not a hundred.
+    std::vector<std::uint8_t> many = icoFile(std::vector<Entry>(100, Entry{32, 32, 32, {}}));
+    const std::uint32_t brokenAt = static_cast<std::uint32_t>(many.size());
+    many.insert(many.end(), broken.begin(), broken.end());
+    for (std::size_t i = 0; i < 100; ++i)
+        for (int b = 0; b < 4; ++b)
+            many[6 + 16 * i + 12 + static_cast<std::size_t>(b)] =
+                static_cast<std::uint8_t>(brokenAt >> (8 * b));
+    // The last entry points at a good 16×16 image.
+    const std::vector<std::uint8_t> good = dib(small);
+    const std::uint32_t goodAt = static_cast<std::uint32_t>(many.size());
+    many.insert(many.end(), good.begin(), good.end());
+    for (int b = 0; b < 4; ++b)
+        many[6 + 16 * 99 + 12 + static_cast<std::size_t>(b)] =
+            static_cast<std::uint8_t>(goodAt >> (8 * b));
+    EXPECT_TRUE(decodeIconPlanes(many));
 }
 
 TEST(IcoReader, RefusesWhatIsOutsideTheLimits) {
