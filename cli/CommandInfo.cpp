@@ -46,8 +46,8 @@ int runInfo(const Arguments& args, Console& console) {
     if (!chosen)
         return console.fail(kRefused,
                             QStringLiteral("aucune image de %1 n'est lisible.").arg(quoted(path)));
-    const bool exact =
-        chosen->bitmap.width() == icon::kIconSize && chosen->bitmap.height() == icon::kIconSize;
+    const icon::IcoImageInfo& taken = directory->images[static_cast<std::size_t>(chosen->index)];
+    const bool exact = taken.width == icon::kIconSize && taken.height == icon::kIconSize;
     out << "L'éditeur prend l'image " << chosen->index + 1
         << (exact ? " telle quelle, en 32×32." : ", ramenée à 32×32.") << "\n";
     return kSuccess;

@@ -89,12 +89,13 @@ std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes
     return directory;
 }
 
-std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes,
-                                      const IcoImageInfo& info) {
+std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes, const IcoImageInfo& info,
+                                      int outputWidth, int outputHeight) {
     const std::span<const std::uint8_t> data = imageBytes(bytes, info.offset);
     if (isPng(data))
-        return decodePngImage(data);
-    return decodeIconDib(data, info.directoryWidth, info.directoryHeight);
+        return decodePngImage(data, outputWidth, outputHeight);
+    return decodeIconDib(data, info.directoryWidth, info.directoryHeight, outputWidth,
+                         outputHeight);
 }
 
 std::vector<int> rankImages(const IcoDirectory& directory, int size) {
@@ -121,6 +122,8 @@ int chooseImage(const IcoDirectory& directory, int size) {
 
 std::optional<ChosenImage> decodeChosenImage(std::span<const std::uint8_t> bytes,
                                              const IcoDirectory& directory, int size) {
+    if (size < 1 || size > kMaxIconSide)
+        return std::nullopt;
     // A file may point many entries at one broken image: each image is tried once, and only
     // the first few candidates, so that no file can make the reader spin.
     std::vector<std::uint32_t> tried;
@@ -131,7 +134,7 @@ std::optional<ChosenImage> decodeChosenImage(std::span<const std::uint8_t> bytes
         if (tried.size() == kMaxDecodeAttempts)
             break;
         tried.push_back(info.offset);
-        if (std::optional<IconBitmap> image = decodeImage(bytes, info))
+        if (std::optional<IconBitmap> image = decodeImage(bytes, info, size, size))
             return ChosenImage{index, std::move(*image)};
     }
     return std::nullopt;
@@ -143,10 +146,10 @@ std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int si
     const std::optional<IcoDirectory> directory = readIcoDirectory(bytes);
     if (!directory)
         return std::nullopt;
-    const std::optional<ChosenImage> chosen = decodeChosenImage(bytes, *directory, size);
+    std::optional<ChosenImage> chosen = decodeChosenImage(bytes, *directory, size);
     if (!chosen)
         return std::nullopt;
-    return resample(chosen->bitmap, size, size);
+    return std::move(chosen->bitmap);
 }
 
 std::optional<IconPlanes> decodeIconPlanes(std::span<const std::uint8_t> bytes) {

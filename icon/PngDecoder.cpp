@@ -65,9 +65,10 @@ std::optional<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes) {
     return PngHeader{static_cast<int>(width), static_cast<int>(height), depth * channels};
 }
 
-std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes) {
+std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, int outputWidth,
+                                         int outputHeight) {
     const std::optional<PngHeader> header = readPngHeader(bytes);
-    if (!header)
+    if (!header || outputWidth > kMaxPngSide || outputHeight > kMaxPngSide)
         return std::nullopt;
     const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                                     static_cast<qsizetype>(bytes.size()));
@@ -75,14 +76,17 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes) {
     if (!image.loadFromData(data, "PNG") || image.width() != header->width ||
         image.height() != header->height)
         return std::nullopt;
-    image = image.convertToFormat(QImage::Format_ARGB32);
+    if (image.format() != QImage::Format_ARGB32 && image.format() != QImage::Format_RGB32)
+        image = image.convertToFormat(QImage::Format_ARGB32);
 
-    IconBitmap out{Frame(image.width(), image.height(), kBlack),
-                   Frame(image.width(), image.height(), kWhite)};
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb p = line[x];
+    const int width = outputWidth > 0 ? outputWidth : image.width();
+    const int height = outputHeight > 0 ? outputHeight : image.height();
+    IconBitmap out{Frame(width, height, kBlack), Frame(width, height, kWhite)};
+    for (int y = 0; y < height; ++y) {
+        const int sy = static_cast<int>(static_cast<long long>(y) * image.height() / height);
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(sy));
+        for (int x = 0; x < width; ++x) {
+            const QRgb p = line[static_cast<long long>(x) * image.width() / width];
             if (qAlpha(p) >= 128) {
                 out.image.set(x, y, rgb(qRed(p), qGreen(p), qBlue(p)));
                 out.mask.set(x, y, kBlack);
