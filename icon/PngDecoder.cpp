@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <array>
+#include <vector>
 
 namespace icon {
 
@@ -34,6 +35,37 @@ int channelsOf(int colourType) {
     default:
         return 0;
     }
+}
+
+bool chunkIs(std::span<const std::uint8_t> type, const char* name) {
+    for (std::size_t i = 0; i < 4; ++i)
+        if (type[i] != static_cast<std::uint8_t>(name[i]))
+            return false;
+    return true;
+}
+
+// The PNG rebuilt from the chunks that make its pixels (IHDR, PLTE, tRNS, IDAT, IEND), each
+// checked to lie whole inside the bytes. Text, colour profiles and private chunks are left out:
+// Qt's reader would only read them, and a damaged length there makes libpng reserve memory for
+// data that is not in the file. Nothing when a chunk runs past the end or IEND is missing.
+std::optional<std::vector<std::uint8_t>> essentialChunks(std::span<const std::uint8_t> bytes) {
+    const ByteReader reader(bytes);
+    std::vector<std::uint8_t> out(kSignature.begin(), kSignature.end());
+    std::size_t at = kSignature.size();
+    while (reader.contains(at, 12)) {
+        const std::size_t length = bigEndian32(reader, at);
+        if (!reader.contains(at + 12, length))
+            return std::nullopt;
+        const std::span<const std::uint8_t> type = reader.slice(at + 4, 4);
+        const std::span<const std::uint8_t> chunk = reader.slice(at, 12 + length);
+        if (chunkIs(type, "IHDR") || chunkIs(type, "PLTE") || chunkIs(type, "tRNS") ||
+            chunkIs(type, "IDAT") || chunkIs(type, "IEND"))
+            out.insert(out.end(), chunk.begin(), chunk.end());
+        if (chunkIs(type, "IEND"))
+            return out;
+        at += 12 + length;
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -70,8 +102,11 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, in
     const std::optional<PngHeader> header = readPngHeader(bytes);
     if (!header || outputWidth > kMaxPngSide || outputHeight > kMaxPngSide)
         return std::nullopt;
-    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                                    static_cast<qsizetype>(bytes.size()));
+    const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
+    if (!png)
+        return std::nullopt;
+    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(png->data()),
+                                                    static_cast<qsizetype>(png->size()));
     QImage image;
     if (!image.loadFromData(data, "PNG") || image.width() != header->width ||
         image.height() != header->height)

@@ -271,6 +271,32 @@ TEST(IcoReader, PngImagesDecodeWithAlphaAsTransparency) {
     EXPECT_EQ(b.mask.at(2, 0), kBlack);
     EXPECT_EQ(b.image.at(2, 0), rgb(0x44, 0x55, 0x66));
     EXPECT_EQ(b.image.at(2, 1), rgb(0x11, 0x22, 0x33));
+
+    // A text chunk after the header is skipped; one whose length runs past the end of the
+    // file makes the image unreadable, without libpng reserving memory for it.
+    for (std::uint32_t length : {4u, 0x7FFFFFF0u}) {
+        std::vector<std::uint8_t> withText = image;
+        const std::vector<std::uint8_t> chunk{static_cast<std::uint8_t>(length >> 24),
+                                              static_cast<std::uint8_t>(length >> 16),
+                                              static_cast<std::uint8_t>(length >> 8),
+                                              static_cast<std::uint8_t>(length),
+                                              't',
+                                              'E',
+                                              'X',
+                                              't',
+                                              'a',
+                                              'b',
+                                              'c',
+                                              'd',
+                                              0,
+                                              0,
+                                              0,
+                                              0};
+        withText.insert(withText.begin() + 33, chunk.begin(), chunk.end());
+        const std::optional<IconPlanes> planes =
+            decodeIconPlanes(icoFile({Entry{3, 2, 32, withText}}));
+        EXPECT_EQ(planes.has_value(), length == 4u) << length;
+    }
 }
 
 TEST(IcoReader, AnUndecodableFirstChoiceFallsBackOnTheNext) {
