@@ -378,14 +378,3 @@ TEST(IcoReader, HeaderCountGivesMultiImage) {
           Case{{0, 0, 1, 0, 2}, std::nullopt}})
         EXPECT_EQ(readHeaderCount(k.bytes), k.count);
 }
-
-TEST(IcoReader, CursorsReadLikeIcons) {
-    DibSpec s = patterned(4, 5, 3);
-    const std::vector<std::uint8_t> file = icoFile({Entry{5, 3, 7, dib(s)}}, 2);
-    const std::optional<IcoDirectory> d = readIcoDirectory(file);
-    ASSERT_TRUE(d);
-    EXPECT_EQ(d->type, 2);
-    EXPECT_EQ(d->images[0].directoryBitCount, 0); // the hotspot sits there, not a depth
-    EXPECT_EQ(d->images[0].bitDepth, 4);
-    expectPattern(decodeOnly(file), 4, s);
-}
