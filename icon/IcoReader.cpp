@@ -141,8 +141,6 @@ std::optional<ChosenImage> decodeChosenImage(std::span<const std::uint8_t> bytes
 }
 
 std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int size) {
-    if (size < 1 || size > kMaxIconSide)
-        return std::nullopt;
     const std::optional<IcoDirectory> directory = readIcoDirectory(bytes);
     if (!directory)
         return std::nullopt;
