@@ -111,17 +111,25 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, in
     if (!image.loadFromData(data, "PNG") || image.width() != header->width ||
         image.height() != header->height)
         return std::nullopt;
-    if (image.format() != QImage::Format_ARGB32 && image.format() != QImage::Format_RGB32)
-        image = image.convertToFormat(QImage::Format_ARGB32);
-
     const int width = outputWidth > 0 ? outputWidth : image.width();
     const int height = outputHeight > 0 ? outputHeight : image.height();
+    // Straight 32-bit pixels are read in place; other formats (palette, grey, 16 bits) are
+    // converted whole when every pixel is kept, read one by one when most are dropped.
+    const bool direct =
+        image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32;
+    if (!direct && width * height >= image.width() * image.height() / 4)
+        image = image.convertToFormat(QImage::Format_ARGB32);
+    const bool converted =
+        image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32;
+
     IconBitmap out{Frame(width, height, kBlack), Frame(width, height, kWhite)};
     for (int y = 0; y < height; ++y) {
         const int sy = static_cast<int>(static_cast<long long>(y) * image.height() / height);
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(sy));
+        const auto* line =
+            converted ? reinterpret_cast<const QRgb*>(image.constScanLine(sy)) : nullptr;
         for (int x = 0; x < width; ++x) {
-            const QRgb p = line[static_cast<long long>(x) * image.width() / width];
+            const int sx = static_cast<int>(static_cast<long long>(x) * image.width() / width);
+            const QRgb p = converted ? line[sx] : image.pixel(sx, sy);
             if (qAlpha(p) >= 128) {
                 out.image.set(x, y, rgb(qRed(p), qGreen(p), qBlue(p)));
                 out.mask.set(x, y, kBlack);
