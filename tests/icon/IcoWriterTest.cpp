@@ -170,10 +170,14 @@ TEST(IcoWriter, AFailedSaveTouchesNothing) {
     }
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
     EXPECT_TRUE(QFileInfo(dir.filePath("folder.ico")).isDir());
+}
 
-    // Permissions mean nothing to the superuser: the rest needs an ordinary user.
+TEST(IcoWriter, AProtectedTargetOrFolderIsRefusedUntouched) {
+    // Permissions mean nothing to the superuser.
     if (geteuid() == 0)
         GTEST_SKIP() << "running as root";
+    QTemporaryDir dir;
+    const IconPlanes icon = opaque(kWhite);
     const QString locked = dir.filePath("locked.ico");
     writeBytes(locked, {1, 2, 3});
     QFile::setPermissions(locked, QFile::ReadOwner);
