@@ -1,0 +1,30 @@
+#pragma once
+
+#include "icon/IconBitmap.h"
+#include "icon/NeWriter.h"
+#include "resources/icons/IconArt.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace iconlib {
+
+// The library's file name, beside the program and in its data folder.
+inline constexpr const char* kLibraryFileName = "Orvanne®.icl";
+
+// Every icon of the library, in order.
+std::vector<IconArt> libraryArt();
+
+// One icon drawn at one size.
+icon::IconBitmap paint(const IconArt& art, int size);
+
+// An ICO file of bitmaps: 24 bits per pixel with an AND mask, in the given order.
+std::vector<std::uint8_t> encodeIco(const std::vector<icon::IconBitmap>& images);
+
+// The ICO file of one icon: its sizes from the smallest.
+std::vector<std::uint8_t> iconFile(const IconArt& art);
+
+// The library's icons, ready for the NE writer.
+std::vector<icon::LibraryIcon> libraryIcons();
+
+} // namespace iconlib
