@@ -30,7 +30,9 @@ struct IcoImageInfo {
     std::uint32_t size = 0;   // bytes of the image data
     int directoryWidth = 0;   // as the directory says (0 there means 256)
     int directoryHeight = 0;
-    int directoryBitCount = 0;
+    int directoryBitCount = 0; // cursors keep their hotspot there instead: 0
+    // The image's own header was read and is within the limits, its colour data all there.
+    bool usable = false;
 };
 
 // The directory of an ICO (type 1) or CUR (type 2) file.
@@ -48,8 +50,13 @@ std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes,
                                       const IcoImageInfo& info);
 
 // Which image the editor takes for a side of `size` pixels: an image of exactly size×size with the
-// deepest colour format; with none, the image nearest in size. -1 when there is no image.
+// deepest colour format; with none, the image nearest in size (the smallest sum of the width and
+// height differences; on a tie the larger image, then the deeper one, then the first in the file).
+// Only usable images count. -1 when there is none.
 int chooseImage(const IcoDirectory& directory, int size);
+// Every usable image, the one chooseImage gives first, then the others in the same order of
+// preference (what decodeIcon falls back on when an image turns out undecodable).
+std::vector<int> rankImages(const IcoDirectory& directory, int size);
 
 // The first icon of an ICO or CUR file, chosen for `size` and brought to size×size by dropping or
 // repeating pixels. Nothing when the file cannot be decoded.
@@ -63,5 +70,6 @@ std::optional<int> readHeaderCount(std::span<const std::uint8_t> bytes);
 
 // The editor's validity test: the file loads with this reader or with one of Qt's image readers.
 bool isLoadablePicture(const QString& path);
+bool isLoadablePicture(std::span<const std::uint8_t> bytes);
 
 } // namespace icon

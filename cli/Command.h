@@ -1,0 +1,26 @@
+#pragma once
+
+#include "cli/Arguments.h"
+#include "cli/Console.h"
+
+#include <QStringList>
+
+namespace cli {
+
+// One command of orvanne-icons. main() holds the table of them; a new command is one more file
+// with its run function and one more row.
+struct Command {
+    const char* name;
+    const char* synopsis; // the usage line after the program's name, French words
+    const char* summary;  // what it does, in French
+    QStringList valueOptions;
+    int minPositional;
+    int maxPositional;
+    int (*run)(const Arguments& args, Console& console);
+};
+
+int runInfo(const Arguments& args, Console& console);
+int runToIco(const Arguments& args, Console& console);
+int runToBmp(const Arguments& args, Console& console);
+
+} // namespace cli

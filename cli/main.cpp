@@ -1,0 +1,77 @@
+// orvanne-icons: the icon conversions of Orvanne, for scripts.
+#include "cli/Command.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace {
+
+using cli::Command;
+
+const std::array kCommands{
+    Command{"info",
+            "info FICHIER",
+            "Décrit les images d'un fichier ICO ou CUR et celle que l'éditeur prend en 32×32.",
+            {},
+            1,
+            1,
+            cli::runInfo},
+    Command{"to-ico",
+            "to-ico ENTRÉE SORTIE",
+            "Ouvre ENTRÉE comme l'éditeur d'icônes et l'enregistre comme lui dans SORTIE "
+            "(32×32, 24 bits, 3262 octets).",
+            {},
+            2,
+            2,
+            cli::runToIco},
+    Command{"to-bmp",
+            "to-bmp ENTRÉE SORTIE [--size 32|48] [--background RRGGBB]",
+            "Écrit l'icône telle que le navigateur la montre, sur son fond (00D2D2 par défaut), "
+            "dans un fichier BMP 24 bits.",
+            {QStringLiteral("--size"), QStringLiteral("--background")},
+            2,
+            2,
+            cli::runToBmp},
+};
+
+void printUsage(QTextStream& out) {
+    out << "Usage : orvanne-icons COMMANDE ARGUMENTS...\n\nCommandes :\n";
+    for (const Command& c : kCommands)
+        out << "  " << c.synopsis << "\n      " << c.summary << "\n";
+    out << "\nCode de sortie : 0 en cas de succès, 1 si l'entrée est refusée ou la sortie "
+           "impossible à écrire, 2 pour une erreur d'utilisation.\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    const QStringList words = QCoreApplication::arguments().mid(1);
+    cli::Console console;
+    const QString hint = QStringLiteral(" Voir « orvanne-icons --help ».");
+    if (words.isEmpty())
+        return console.fail(cli::kUsage, QStringLiteral("il manque la commande.") + hint);
+    if (words[0] == QLatin1String("--help") || words[0] == QLatin1String("-h")) {
+        printUsage(console.out());
+        return cli::kSuccess;
+    }
+    for (const Command& c : kCommands) {
+        if (words[0] != QLatin1String(c.name))
+            continue;
+        const QString usage =
+            QStringLiteral(" Usage : orvanne-icons %1").arg(QString::fromUtf8(c.synopsis));
+        QString error;
+        const std::optional<cli::Arguments> args =
+            cli::Arguments::parse(words.mid(1), c.valueOptions, error);
+        if (!args)
+            return console.fail(cli::kUsage, error + usage);
+        const auto count = args->positional().size();
+        if (count < c.minPositional || count > c.maxPositional)
+            return console.fail(cli::kUsage,
+                                QStringLiteral("nombre d'arguments incorrect.") + usage);
+        return c.run(*args, console);
+    }
+    return console.fail(cli::kUsage,
+                        QStringLiteral("commande inconnue « %1 ».").arg(words[0]) + hint);
+}

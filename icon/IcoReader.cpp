@@ -1,0 +1,163 @@
+#include "icon/IcoReader.h"
+
+#include "icon/BmpDecoder.h"
+#include "icon/ByteReader.h"
+#include "icon/FileBytes.h"
+#include "icon/PngDecoder.h"
+
+#include <QByteArray>
+#include <QImage>
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <tuple>
+
+namespace icon {
+
+namespace {
+
+constexpr std::size_t kHeaderBytes = 6;
+constexpr std::size_t kEntryBytes = 16;
+constexpr int kTypeIcon = 1;
+constexpr int kTypeCursor = 2;
+constexpr int kMaxIconSide = kMaxPngSide;
+
+// The bytes of an image: from its offset to the end of the file. The directory's byte count is
+// often wrong (too small, or huge), so each image's own header says how much it needs.
+std::span<const std::uint8_t> imageBytes(std::span<const std::uint8_t> file, std::uint32_t offset) {
+    return ByteReader(file).sliceClamped(offset, std::numeric_limits<std::size_t>::max());
+}
+
+// Fills in what the image's own header says; the directory's values stay where it says nothing.
+void readImageHeader(std::span<const std::uint8_t> file, IcoImageInfo& info) {
+    const std::span<const std::uint8_t> data = imageBytes(file, info.offset);
+    if (isPng(data)) {
+        info.format = ImageFormat::Png;
+        if (const std::optional<PngHeader> png = readPngHeader(data)) {
+            info.width = png->width;
+            info.height = png->height;
+            info.bitDepth = png->bitDepth;
+            info.usable = true;
+        }
+        return;
+    }
+    if (const std::optional<DibLayout> dib =
+            readDibLayout(data, info.directoryWidth, info.directoryHeight)) {
+        info.width = dib->width;
+        info.height = dib->height;
+        info.bitDepth = dib->bitCount;
+        info.usable = true;
+    }
+}
+
+} // namespace
+
+std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes) {
+    const ByteReader reader(bytes);
+    if (bytes.size() < kHeaderBytes)
+        return std::nullopt;
+    const int reserved = reader.u16(0);
+    const int type = reader.u16(2);
+    const std::size_t count = reader.u16(4);
+    if (reserved != 0 || (type != kTypeIcon && type != kTypeCursor) || count == 0)
+        return std::nullopt;
+    // Every entry of the directory must be there: the count is bounded by the file size.
+    if (count > (bytes.size() - kHeaderBytes) / kEntryBytes)
+        return std::nullopt;
+
+    IcoDirectory directory;
+    directory.type = type;
+    directory.images.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t entry = kHeaderBytes + i * kEntryBytes;
+        IcoImageInfo info;
+        info.directoryWidth = reader.u8(entry) == 0 ? 256 : reader.u8(entry);
+        info.directoryHeight = reader.u8(entry + 1) == 0 ? 256 : reader.u8(entry + 1);
+        info.directoryBitCount = type == kTypeIcon ? reader.u16(entry + 6) : 0;
+        info.size = reader.u32(entry + 8);
+        info.offset = reader.u32(entry + 12);
+        info.width = info.directoryWidth;
+        info.height = info.directoryHeight;
+        info.bitDepth = info.directoryBitCount;
+        readImageHeader(bytes, info);
+        directory.images.push_back(info);
+    }
+    if (reader.failed())
+        return std::nullopt;
+    return directory;
+}
+
+std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes,
+                                      const IcoImageInfo& info) {
+    const std::span<const std::uint8_t> data = imageBytes(bytes, info.offset);
+    if (isPng(data))
+        return decodePngImage(data);
+    return decodeIconDib(data, info.directoryWidth, info.directoryHeight);
+}
+
+std::vector<int> rankImages(const IcoDirectory& directory, int size) {
+    std::vector<int> ranked;
+    for (std::size_t i = 0; i < directory.images.size(); ++i)
+        if (directory.images[i].usable)
+            ranked.push_back(static_cast<int>(i));
+    // Exact size first, deepest first among those; then the nearest, the larger on a tie (a
+    // picture shrunk by dropping pixels keeps more of itself than one blown up), the deeper.
+    const auto key = [&](int i) {
+        const IcoImageInfo& im = directory.images[static_cast<std::size_t>(i)];
+        const bool exact = im.width == size && im.height == size;
+        const int distance = std::abs(im.width - size) + std::abs(im.height - size);
+        return std::make_tuple(!exact, distance, -im.width * im.height, -im.bitDepth, i);
+    };
+    std::sort(ranked.begin(), ranked.end(), [&](int a, int b) { return key(a) < key(b); });
+    return ranked;
+}
+
+int chooseImage(const IcoDirectory& directory, int size) {
+    const std::vector<int> ranked = rankImages(directory, size);
+    return ranked.empty() ? -1 : ranked.front();
+}
+
+std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int size) {
+    if (size < 1 || size > kMaxIconSide)
+        return std::nullopt;
+    const std::optional<IcoDirectory> directory = readIcoDirectory(bytes);
+    if (!directory)
+        return std::nullopt;
+    for (int index : rankImages(*directory, size)) {
+        const std::optional<IconBitmap> image =
+            decodeImage(bytes, directory->images[static_cast<std::size_t>(index)]);
+        if (image)
+            return resample(*image, size, size);
+    }
+    return std::nullopt;
+}
+
+std::optional<IconPlanes> decodeIconPlanes(std::span<const std::uint8_t> bytes) {
+    const std::optional<IconBitmap> icon = decodeIcon(bytes, kIconSize);
+    if (!icon)
+        return std::nullopt;
+    return toPlanes(*icon);
+}
+
+std::optional<int> readHeaderCount(std::span<const std::uint8_t> bytes) {
+    const ByteReader reader(bytes);
+    if (!reader.contains(0, kHeaderBytes))
+        return std::nullopt;
+    return reader.i16(4);
+}
+
+bool isLoadablePicture(std::span<const std::uint8_t> bytes) {
+    if (decodeIcon(bytes, kIconSize))
+        return true;
+    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                                    static_cast<qsizetype>(bytes.size()));
+    return !QImage::fromData(data).isNull();
+}
+
+bool isLoadablePicture(const QString& path) {
+    const std::optional<std::vector<std::uint8_t>> bytes = readFileBytes(path);
+    return bytes && isLoadablePicture(*bytes);
+}
+
+} // namespace icon

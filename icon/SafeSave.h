@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <span>
+
+namespace icon {
+
+enum class SaveError {
+    None,
+    FolderMissing, // the folder of the target does not exist
+    NotWritable,   // the target or its folder cannot be written
+    WriteFailed,   // writing or replacing failed half-way; the target is as it was
+};
+
+// What a save did, for the caller to test; `message` is the French sentence the command line
+// prints, empty on success.
+struct SaveResult {
+    SaveError error = SaveError::None;
+    QString message;
+
+    bool ok() const { return error == SaveError::None; }
+    explicit operator bool() const { return ok(); }
+};
+
+// Writes `content` to `path` so that a failure loses nothing: the whole new content goes to a
+// temporary file in the same folder, which then replaces the target, keeping its permissions.
+// With keepTail, the bytes of the existing file beyond content.size() follow the new content,
+// as the icon editor has always left them. A target or folder that cannot be written fails
+// before anything is touched.
+SaveResult saveFileSafely(const QString& path, std::span<const std::uint8_t> content,
+                          bool keepTail);
+
+} // namespace icon

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "icon/Colour.h"
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace icontest {
+
+// A bitmap of an icon image, written the way icon files hold them, for building test files.
+struct DibSpec {
+    int width = 4;
+    int height = 4;
+    int bits = 24;
+    bool topDown = false;
+    std::vector<icon::Colour> palette;    // 1, 4 and 8 bits
+    std::uint32_t coloursUsed = 0;        // the header's count; 0 = full table
+    std::uint32_t compression = 0;        // 3 = bit fields, given in `bitfields`
+    std::vector<std::uint32_t> bitfields; // written after the 40-byte header
+    // Index (1, 4, 8 bits), 16-bit value, colour 0x00BBGGRR (24 bits) or 0xAARRGGBB (32 bits).
+    std::function<std::uint32_t(int x, int y)> pixel = [](int, int) {
+        return 0u;
+    };
+    std::function<bool(int x, int y)> transparent = [](int, int) {
+        return false;
+    };
+    bool withMask = true;
+    int headerWidth = -1; // to make the header lie; -1 writes the real values
+    int headerHeight = -1;
+};
+
+std::vector<std::uint8_t> dib(const DibSpec& spec);
+
+struct Entry {
+    int width = 0; // as the directory says (256 is written 0)
+    int height = 0;
+    int bitCount = 0;
+    std::vector<std::uint8_t> data;
+};
+
+// An ICO (type 1) or CUR (type 2) file holding the entries in order.
+std::vector<std::uint8_t> icoFile(const std::vector<Entry>& entries, int type = 1);
+// A one-image icon file of the bitmap, the directory telling the truth.
+std::vector<std::uint8_t> icoFile(const DibSpec& spec);
+
+// A PNG file of width×height with the colour and alpha given per pixel (0xAARRGGBB).
+std::vector<std::uint8_t> png(int width, int height,
+                              const std::function<std::uint32_t(int, int)>& argb);
+
+} // namespace icontest
