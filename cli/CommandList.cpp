@@ -18,8 +18,11 @@ QString imagesText(const std::vector<std::uint8_t>& ico) {
         return QStringLiteral("aucune image");
     QStringList parts;
     for (const icon::IcoImageInfo& im : directory->images) {
-        QString part =
-            QStringLiteral("%1×%2 %3 bits").arg(im.width).arg(im.height).arg(im.bitDepth);
+        QString part = QStringLiteral("%1×%2 %3 %4")
+                           .arg(im.width)
+                           .arg(im.height)
+                           .arg(im.bitDepth)
+                           .arg(im.bitDepth == 1 ? QStringLiteral("bit") : QStringLiteral("bits"));
         if (im.format == icon::ImageFormat::Png)
             part += QStringLiteral(" PNG");
         if (!im.usable)

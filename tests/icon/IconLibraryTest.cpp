@@ -1,6 +1,7 @@
 #include "resources/icons/IconLibrary.h"
 #include "icon/ByteReader.h"
 #include "icon/IcoAssembly.h"
+#include "icon/IconSource.h"
 #include "icon/NeReader.h"
 #include "tests/support/TestData.h"
 
@@ -67,4 +68,16 @@ TEST(IconLibrary, IconsAreDrawnNotEmpty) {
         EXPECT_GE(colours.size(), 4u);
         EXPECT_TRUE(seen.insert(look).second);
     }
+}
+
+TEST(IconLibrary, PickerShowsEachIconAsPainted) {
+    const std::optional<IconSource> source =
+        IconSource::open(QString::fromUtf8(ORVANNE_ICON_LIBRARY));
+    ASSERT_TRUE(source.has_value());
+    EXPECT_EQ(source->kind(), IconSource::Kind::Ne);
+    const std::vector<iconlib::IconArt> art = iconlib::libraryArt();
+    ASSERT_EQ(source->count(), static_cast<int>(art.size()));
+    for (std::size_t i = 0; i < art.size(); ++i)
+        EXPECT_TRUE(source->planes(static_cast<int>(i) + 1) == toPlanes(iconlib::paint(art[i], 32)))
+            << art[i].name;
 }
