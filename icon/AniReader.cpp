@@ -34,7 +34,7 @@ std::size_t readFrames(const ByteReader& r, std::size_t at, std::size_t listEnd,
         const std::size_t size = r.u32(at + 4);
         if ((at >= listEnd && id != fourcc("icon")) || !r.contains(at + kChunkHeader, size))
             break;
-        if (id == fourcc("icon")) {
+        if (id == fourcc("icon") && frames.size() < kMaxIconsInFile) {
             IconResource frame;
             frame.form = IconResource::Form::Embedded;
             frame.offset = at + kChunkHeader;

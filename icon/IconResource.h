@@ -8,6 +8,9 @@
 
 namespace icon {
 
+// More icons than this in one file is no real file: the readers stop there or refuse it.
+inline constexpr std::size_t kMaxIconsInFile = 65536;
+
 // One image of an icon group: the directory fields the group gives it and where its data
 // lies in the container file.
 struct GroupImage {

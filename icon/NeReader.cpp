@@ -72,6 +72,8 @@ std::optional<std::vector<IconResource>> readNeIcons(std::span<const std::uint8_
         for (std::size_t i = 0; i < count; ++i, at += kNameInfoSize) {
             const NeResource res{r.u16(at + 6), clampedPlace(r, std::size_t{r.u16(at)} << shift,
                                                              std::size_t{r.u16(at + 2)} << shift)};
+            if (type == kNeGroupIcon && groups.size() == kMaxIconsInFile)
+                return std::nullopt;
             if (type == kNeGroupIcon)
                 groups.push_back(res);
             else if (type == kNeIcon && (res.id & 0x8000) != 0)

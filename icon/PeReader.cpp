@@ -223,8 +223,11 @@ std::optional<std::vector<IconResource>> readPeIcons(std::span<const std::uint8_
         return icons;
     const std::map<std::uint32_t, std::vector<Language>> iconMap = iconsByNumber(res, root);
 
+    const std::vector<DirEntry> names = groupOrder(res.directory(groups->target));
+    if (names.size() > kMaxIconsInFile)
+        return std::nullopt;
     std::size_t entryBudget = kMaxGroupEntriesInFile;
-    for (const DirEntry& entry : groupOrder(res.directory(groups->target))) {
+    for (const DirEntry& entry : names) {
         if (entry.target == groups->target || entry.target == 0)
             continue; // a directory naming itself or the root: a loop, not a group
         IconResource icon;
