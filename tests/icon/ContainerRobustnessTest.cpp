@@ -98,3 +98,71 @@ TEST(ContainerRobustness, AbsurdCountsAreBoundedByTheFile) {
     shifted[table] = 40; // an alignment shift no file can have
     EXPECT_FALSE(readNeIcons(shifted).has_value());
 }
+
+namespace {
+
+// Where the resource directory of a PE file starts, found the long way round.
+std::size_t resourceRoot(const std::vector<std::uint8_t>& pe) {
+    const ByteReader r(pe);
+    const std::size_t header = r.u32(0x3C);
+    const std::size_t opt = header + 24;
+    const std::size_t directories = opt + (r.u16(opt) == 0x20B ? 112 : 96);
+    const std::uint32_t rva = r.u32(directories + 16);
+    const std::size_t sections = opt + r.u16(header + 20);
+    for (std::size_t i = 0; i < r.u16(header + 6); ++i) {
+        const std::size_t s = sections + 40 * i;
+        if (rva >= r.u32(s + 12) && rva < r.u32(s + 12) + r.u32(s + 16))
+            return r.u32(s + 20) + (rva - r.u32(s + 12));
+    }
+    return 0;
+}
+
+// The offset in the file of the entry for `id` in the directory at `dir`.
+std::size_t entryFor(const std::vector<std::uint8_t>& pe, std::size_t dir, std::uint32_t id) {
+    const ByteReader r(pe);
+    const std::size_t count = std::size_t{r.u16(dir + 12)} + r.u16(dir + 14);
+    for (std::size_t i = 0; i < count; ++i)
+        if (r.u32(dir + 16 + 8 * i) == id)
+            return dir + 16 + 8 * i;
+    return 0;
+}
+
+void pointAt(std::vector<std::uint8_t>& pe, std::size_t entry, std::uint32_t target) {
+    target |= 0x80000000u;
+    for (int i = 0; i < 4; ++i)
+        pe[entry + 4 + i] = static_cast<std::uint8_t>(target >> (8 * i));
+}
+
+} // namespace
+
+TEST(ContainerRobustness, ResourceDirectoriesThatLoopEndCleanly) {
+    const std::vector<std::uint8_t> original = fileBytes(testData("pe/r2tb_notputty.exe"));
+    const std::size_t root = resourceRoot(original);
+    const std::size_t groupType = entryFor(original, root, 14);
+    ASSERT_NE(groupType, 0u);
+    const std::uint32_t groupDir = ByteReader(original).u32(groupType + 4) & 0x7FFFFFFF;
+
+    // The group type pointing back at the root: the root's entries are no groups.
+    std::vector<std::uint8_t> toRoot = original;
+    pointAt(toRoot, groupType, 0);
+    const auto none = readPeIcons(toRoot);
+    ASSERT_TRUE(none.has_value());
+    EXPECT_TRUE(none->empty());
+
+    // A group pointing at its own directory is no group; the other one stays.
+    std::vector<std::uint8_t> toItself = original;
+    pointAt(toItself, root + groupDir + 16, groupDir);
+    const auto one = readPeIcons(toItself);
+    ASSERT_TRUE(one.has_value());
+    ASSERT_EQ(one->size(), 1u);
+    EXPECT_EQ((*one)[0].id, 201);
+
+    // A language level that names the group directory again: a directory, not data.
+    std::vector<std::uint8_t> deeper = original;
+    const std::uint32_t languages = ByteReader(original).u32(root + groupDir + 16 + 4) & 0x7FFFFFFF;
+    pointAt(deeper, root + languages + 16, groupDir);
+    const auto shallow = readPeIcons(deeper);
+    ASSERT_TRUE(shallow.has_value());
+    ASSERT_EQ(shallow->size(), 2u);
+    EXPECT_TRUE((*shallow)[0].images.empty());
+}
