@@ -11,9 +11,11 @@ QString ownIconLibraryName() {
 }
 
 QString ownIconLibraryPath() {
-    const QString beside =
-        QDir(QCoreApplication::applicationDirPath()).filePath(ownIconLibraryName());
-    if (QFileInfo::exists(beside))
+    // Without an application object there is no program folder to look in.
+    const QString programFolder =
+        QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString();
+    const QString beside = QDir(programFolder).filePath(ownIconLibraryName());
+    if (!programFolder.isEmpty() && QFileInfo::exists(beside))
         return beside;
     const QString installed =
         QDir(QString::fromUtf8(ORVANNE_DATADIR)).filePath(ownIconLibraryName());
