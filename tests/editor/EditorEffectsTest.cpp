@@ -1,0 +1,211 @@
+#include "EditorTestUtil.h"
+
+#include "effects/Gradient.h"
+#include "effects/Transforms.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+using editor::CanvasRect;
+using editor::Events;
+using editor::IconEditor;
+using editor::SelectionState;
+using editortest::drawSelection;
+using editortest::patternedIcon;
+
+namespace {
+
+struct EffectCase {
+    const char* name;
+    std::function<Events(IconEditor&)> run;
+};
+
+const std::vector<EffectCase> kBlockEffects = {
+    {"mirror left-right",
+     [](IconEditor& e) {
+         return e.flip(3);
+     }},
+    {"mirror top-bottom",
+     [](IconEditor& e) {
+         return e.flip(4);
+     }},
+    {"turn left",
+     [](IconEditor& e) {
+         return e.quarterTurn(5);
+     }},
+    {"turn right",
+     [](IconEditor& e) {
+         return e.quarterTurn(6);
+     }},
+    {"reflect left/right",
+     [](IconEditor& e) {
+         return e.halfReflect(0);
+     }},
+    {"reflect right/left",
+     [](IconEditor& e) {
+         return e.halfReflect(1);
+     }},
+    {"reflect top/bottom",
+     [](IconEditor& e) {
+         return e.halfReflect(2);
+     }},
+    {"reflect bottom/top",
+     [](IconEditor& e) {
+         return e.halfReflect(3);
+     }},
+    {"grey levels",
+     [](IconEditor& e) {
+         return e.greyLevels();
+     }},
+    {"negative",
+     [](IconEditor& e) {
+         return e.negative();
+     }},
+};
+
+const std::vector<EffectCase> kWholeIconEffects = {
+    {"button",
+     [](IconEditor& e) {
+         return e.buttonEffect();
+     }},
+    {"gradient",
+     [](IconEditor& e) {
+         return e.applyBackground(effects::Gradient::render(0, icon::kWhite, 45));
+     }},
+    {"colour adjustment",
+     [](IconEditor& e) {
+         auto adjuster = e.beginColourAdjustment();
+         adjuster.change(effects::ColourAdjuster::Bar::Brightness, 5);
+         return e.applyColourAdjustment(adjuster);
+     }},
+};
+
+} // namespace
+
+TEST(EditorEffects, OnTheWholeIconEachIsOneStepThatUndoRestores) {
+    for (const auto* table : {&kBlockEffects, &kWholeIconEffects})
+        for (const EffectCase& c : *table) {
+            IconEditor e;
+            e.loadIcon(patternedIcon());
+            EXPECT_EQ(c.run(e), editor::kRedraw) << c.name;
+            EXPECT_NE(e.planes(), patternedIcon()) << c.name;
+            EXPECT_EQ(e.history().undoCount(), 2u) << c.name;
+            EXPECT_TRUE(e.isModified()) << c.name;
+            e.Undo();
+            EXPECT_EQ(e.planes(), patternedIcon()) << c.name;
+        }
+}
+
+TEST(EditorEffects, OnAFloatingSelectionOnlyTheBuffersChange) {
+    for (const EffectCase& c : kBlockEffects) {
+        IconEditor e;
+        e.loadIcon(patternedIcon());
+        drawSelection(e, 2, 2, 8, 6);
+        e.press(1, 25, 25); // grabbing floats it
+        e.release(1, 25, 25);
+        ASSERT_EQ(e.selectionState(), SelectionState::Floating);
+        const icon::IconBitmap before = e.selectionBuffers();
+        c.run(e);
+        EXPECT_EQ(e.planes(), patternedIcon()) << c.name;
+        EXPECT_NE(e.selectionBuffers(), before) << c.name;
+        EXPECT_EQ(e.selectionState(), SelectionState::Floating) << c.name;
+        EXPECT_EQ(e.history().undoCount(), 1u) << c.name;
+        EXPECT_EQ(e.history().redoCount(), 0u) << c.name;
+    }
+}
+
+TEST(EditorEffects, OnADrawnSelectionTheZoneChangesInPlaceWithoutAStep) {
+    IconEditor e;
+    e.loadIcon(patternedIcon());
+    drawSelection(e, 2, 2, 8, 6);
+    e.flip(3);
+    EXPECT_EQ(e.selectionState(), SelectionState::Drawn);
+    EXPECT_EQ(e.history().undoCount(), 1u);
+    EXPECT_TRUE(e.isModified());
+    for (int y = 0; y < 32; ++y)
+        for (int x = 0; x < 32; ++x) {
+            const bool inside = x >= 2 && x < 8 && y >= 2 && y < 6;
+            const int sx = inside ? 2 + 7 - x : x;
+            ASSERT_EQ(e.planes().image.at(x, y), patternedIcon().image.at(sx, y));
+            ASSERT_EQ(e.planes().mask.at(x, y), patternedIcon().mask.at(sx, y));
+        }
+}
+
+TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
+    IconEditor e;
+    e.loadIcon(patternedIcon());
+    drawSelection(e, 1, 2, 6, 5); // 5 × 3 cells
+    e.quarterTurn(5);             // "left", and a selection turns clockwise anyway
+    EXPECT_EQ(e.selectionState(), SelectionState::Floating);
+    EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 40, 70}));
+    const icon::IconBitmap lifted = [] {
+        IconEditor source;
+        source.loadIcon(patternedIcon());
+        drawSelection(source, 1, 2, 6, 5);
+        source.press(1, 15, 25);
+        source.release(1, 15, 25);
+        return source.selectionBuffers();
+    }();
+    EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
+    EXPECT_EQ(e.planes(), patternedIcon());
+    EXPECT_EQ(e.history().undoCount(), 1u);
+    e.quarterTurn(6);
+    EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 60, 50}));
+    e.quarterTurn(7); // the one index that turns a selection to the left
+    EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
+}
+
+TEST(EditorEffects, FourQuarterTurnsAndTwoNegativesGiveTheIconBack) {
+    for (int index : {5, 6}) {
+        IconEditor e;
+        e.loadIcon(patternedIcon());
+        for (int i = 0; i < 4; ++i)
+            e.quarterTurn(index);
+        EXPECT_EQ(e.planes(), patternedIcon());
+        EXPECT_EQ(e.history().undoCount(), 5u);
+    }
+    IconEditor e;
+    e.loadIcon(patternedIcon());
+    e.quarterTurn(5);
+    e.quarterTurn(6);
+    e.negative();
+    e.negative();
+    EXPECT_EQ(e.planes(), patternedIcon());
+}
+
+TEST(EditorEffects, ReflectionsNeedEvenSidesOfTheSelection) {
+    IconEditor e;
+    EXPECT_TRUE(e.reflectionEnabled(0) && e.reflectionEnabled(3));
+    drawSelection(e, 0, 0, 7, 6);
+    const bool expected[] = {false, false, true, true};
+    for (int index = 0; index < 4; ++index)
+        EXPECT_EQ(e.reflectionEnabled(index), expected[index]) << index;
+    EXPECT_FALSE(e.reflectionEnabled(4));
+    EXPECT_EQ(e.halfReflect(0), editor::kNoEvent);
+}
+
+TEST(EditorEffects, WholeIconEffectsStampAFloatingSelectionFirst) {
+    for (const EffectCase& c : kWholeIconEffects) {
+        IconEditor e;
+        QImage red(3, 3, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        e.PasteClipboard(red, true);
+        c.run(e);
+        EXPECT_EQ(e.selectionState(), SelectionState::None) << c.name;
+        EXPECT_FALSE(e.planes().isTransparent(1, 1)) << c.name;
+        // One step for the stamp, one for the effect.
+        EXPECT_EQ(e.history().undoCount(), 3u) << c.name;
+    }
+}
+
+TEST(EditorEffects, BackgroundsKeepOpaquePixelsAndStillRecordAStep) {
+    icon::IconPlanes opaque = patternedIcon();
+    opaque.mask.fill(icon::kBlack);
+    IconEditor e;
+    e.loadIcon(opaque);
+    e.applyBackground(icon::Frame(32, 32, 0x123456));
+    EXPECT_EQ(e.planes(), opaque);
+    EXPECT_EQ(e.history().undoCount(), 2u);
+}

@@ -1,0 +1,98 @@
+#include "editor/History.h"
+#include "EditorTestUtil.h"
+
+#include <gtest/gtest.h>
+
+using editor::History;
+using editor::IconEditor;
+using editor::Tool;
+using editortest::click;
+
+namespace {
+
+icon::IconPlanes withPixel(int x, icon::Colour c) {
+    icon::IconPlanes p;
+    p.paint(x, 0, c);
+    return p;
+}
+
+} // namespace
+
+TEST(History, UndoOfTheBaseMovesItAcrossAndFails) {
+    History h;
+    h.PushSnapshot(withPixel(0, 1));
+    EXPECT_EQ(h.counter(), 1);
+    EXPECT_FALSE(h.Undo());
+    EXPECT_EQ(h.undoCount(), 0u);
+    EXPECT_EQ(h.redoCount(), 1u);
+    EXPECT_FALSE(h.Undo()); // nothing left at all
+    // The redo brings the base back.
+    const auto back = h.Redo();
+    ASSERT_TRUE(back);
+    EXPECT_EQ(*back, withPixel(0, 1));
+    EXPECT_FALSE(h.Redo());
+}
+
+TEST(EditorHistory, ThreeStrokesUndoneAndRedone) {
+    IconEditor e;
+    e.loadIcon(editortest::patternedIcon());
+    e.selectTool(Tool::Pencil);
+    std::vector<icon::IconPlanes> states{e.planes()};
+    for (int i = 0; i < 3; ++i) {
+        click(e, 1, 5 + i, 5);
+        states.push_back(e.planes());
+    }
+    for (int i = 2; i >= 0; --i) {
+        EXPECT_EQ(e.Undo(), editor::kRedraw);
+        EXPECT_EQ(e.planes(), states[i]);
+    }
+    EXPECT_EQ(e.Undo(), editor::kHistoryFailed);
+    EXPECT_EQ(e.planes(), states[0]);
+    // The failed undo moved the base across: the first redo restores it and the next three
+    // give the strokes back in order.
+    EXPECT_EQ(e.Redo(), editor::kRedraw);
+    EXPECT_EQ(e.planes(), states[0]);
+    for (int i = 1; i <= 3; ++i) {
+        e.Redo();
+        EXPECT_EQ(e.planes(), states[i]);
+    }
+    EXPECT_EQ(e.Redo(), editor::kHistoryFailed);
+}
+
+TEST(EditorHistory, ANewStrokeEmptiesTheRedoStack) {
+    IconEditor e;
+    e.selectTool(Tool::Pencil);
+    click(e, 1, 1, 1);
+    click(e, 1, 2, 2);
+    e.Undo();
+    e.Undo();
+    EXPECT_EQ(e.history().redoCount(), 2u);
+    click(e, 1, 3, 3);
+    EXPECT_EQ(e.history().redoCount(), 0u);
+    EXPECT_EQ(e.Redo(), editor::kHistoryFailed);
+}
+
+TEST(EditorHistory, EveryStateIsKept) {
+    IconEditor e;
+    const icon::IconPlanes blank = e.planes();
+    e.selectTool(Tool::Pencil);
+    for (int i = 0; i < 200; ++i)
+        click(e, 1 + i % 2, i % 32, i / 32);
+    EXPECT_EQ(e.history().undoCount(), 201u);
+    for (int i = 0; i < 200; ++i)
+        ASSERT_EQ(e.Undo(), editor::kRedraw) << i;
+    EXPECT_EQ(e.planes(), blank);
+}
+
+TEST(EditorHistory, LoadingBasesTheHistoryOnTheOpenedIcon) {
+    IconEditor e;
+    e.selectTool(Tool::Pencil);
+    click(e, 1, 1, 1);
+    e.loadIcon(editortest::patternedIcon());
+    EXPECT_EQ(e.history().undoCount(), 1u);
+    EXPECT_EQ(e.history().counter(), 1);
+    EXPECT_FALSE(e.isModified());
+    EXPECT_EQ(*e.history().current(), editortest::patternedIcon());
+    EXPECT_EQ(e.Undo(), editor::kHistoryFailed);
+    EXPECT_EQ(e.planes(), editortest::patternedIcon());
+}

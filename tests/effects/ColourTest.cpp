@@ -1,0 +1,158 @@
+#include "effects/ColourAdjuster.h"
+#include "effects/ColourTransforms.h"
+#include "effects/Rounding.h"
+
+#include <gtest/gtest.h>
+
+using effects::ColourAdjuster;
+using icon::rgb;
+using Bar = effects::ColourAdjuster::Bar;
+
+TEST(Rounding, HalvesGoToTheEvenNeighbour) {
+    const struct {
+        double value;
+        int expected;
+    } cases[] = {{0.5, 0},   {1.5, 2},    {2.5, 2},    {3.5, 4},     {-0.5, 0},  {-1.5, -2},
+                 {-2.5, -2}, {2.4999, 2}, {2.5001, 3}, {127.5, 128}, {-3.2, -3}, {246.5625, 247}};
+    for (const auto& c : cases)
+        EXPECT_EQ(effects::roundHalfEven(c.value), c.expected) << c.value;
+}
+
+TEST(ColourTransforms, GreyLevelsWeighTheChannels) {
+    const struct {
+        icon::Colour colour;
+        int expected;
+    } cases[] = {
+        {rgb(255, 255, 255), 255},                       // (222 + 707 + 71) · 255 / 1000 exactly
+        {rgb(0, 0, 1), 0},                               // S = 71
+        {rgb(2, 1, 19), 2},                              // S = 2500: halves to even
+        {rgb(3, 2, 20), 4},                              // S = 3500
+        {rgb(1, 0, 18), 2},                              // S = 1500
+        {rgb(0, 0, 0), 0},         {rgb(100, 0, 0), 22}, // 22.2
+        {rgb(0, 100, 0), 71},                            // 70.7
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(effects::greyOf(c.colour), rgb(c.expected, c.expected, c.expected))
+            << std::hex << c.colour;
+}
+
+TEST(ColourTransforms, TouchOnlyOpaquePixels) {
+    icon::IconBitmap block{icon::Frame(3, 1), icon::Frame(3, 1, icon::kBlack)};
+    block.image.set(0, 0, rgb(10, 20, 30));
+    block.image.set(1, 0, rgb(10, 20, 30));
+    block.mask.set(1, 0, icon::kWhite);
+    block.image.set(2, 0, rgb(200, 0, 50));
+    block.mask.set(2, 0, 0xFEFEFE); // near white is opaque
+
+    icon::IconBitmap negative = block;
+    effects::negative(negative);
+    EXPECT_EQ(negative.image.at(0, 0), rgb(245, 235, 225));
+    EXPECT_EQ(negative.image.at(1, 0), rgb(10, 20, 30));
+    EXPECT_EQ(negative.image.at(2, 0), rgb(55, 255, 205));
+    EXPECT_EQ(negative.mask, block.mask);
+    effects::negative(negative);
+    EXPECT_EQ(negative, block);
+
+    icon::IconBitmap grey = block;
+    effects::greyLevels(grey);
+    EXPECT_EQ(grey.image.at(1, 0), rgb(10, 20, 30));
+    EXPECT_EQ(grey.image.at(0, 0), effects::greyOf(rgb(10, 20, 30)));
+    EXPECT_EQ(grey.mask, block.mask);
+}
+
+namespace {
+
+icon::IconPlanes oneColourIcon(icon::Colour colour) {
+    icon::IconPlanes planes;
+    planes.image.fill(colour);
+    planes.mask.fill(icon::kBlack);
+    return planes;
+}
+
+} // namespace
+
+TEST(ColourAdjuster, EveryChangeIsOneStepOfFive) {
+    ColourAdjuster adjuster(oneColourIcon(rgb(100, 100, 100)));
+    const struct {
+        Bar bar;
+        int value;
+        ColourAdjuster::Channels expected;
+    } steps[] = {
+        {Bar::Red, 5, {105, 100, 100}},
+        {Bar::Red, 255, {110, 100, 100}}, // a jump of 250 is still one step
+        {Bar::Red, 255, {110, 100, 100}}, // no move, no step
+        {Bar::Green, -50, {110, 95, 100}},
+        {Bar::Brightness, 5, {115, 100, 105}}, // brightness moves the three channels
+        {Bar::Red, 0, {110, 100, 105}},
+    };
+    for (const auto& s : steps) {
+        adjuster.change(s.bar, s.value);
+        EXPECT_EQ(adjuster.working(0), s.expected) << s.value;
+        EXPECT_EQ(adjuster.value(s.bar), s.value);
+    }
+    EXPECT_EQ(adjuster.preview().at(31, 31), rgb(110, 100, 105));
+}
+
+TEST(ColourAdjuster, OutOfRangeValuesStayFrozenInTheDisplay) {
+    ColourAdjuster adjuster(oneColourIcon(rgb(253, 2, 0)));
+    adjuster.change(Bar::Brightness, 5);
+    EXPECT_EQ(adjuster.working(0), (ColourAdjuster::Channels{258, 7, 5}));
+    EXPECT_EQ(adjuster.display(0), (ColourAdjuster::Channels{253, 7, 5}));
+    adjuster.change(Bar::Brightness, 0);
+    EXPECT_EQ(adjuster.display(0), (ColourAdjuster::Channels{253, 2, 0}));
+    adjuster.change(Bar::Blue, -5);
+    adjuster.change(Bar::Blue, -10);
+    EXPECT_EQ(adjuster.working(0).blue, -10);
+    EXPECT_EQ(adjuster.display(0).blue, 0);
+    adjuster.change(Bar::Blue, -5);
+    EXPECT_EQ(adjuster.display(0).blue, 0); // -5 is still out of range
+    icon::IconPlanes icon = oneColourIcon(0);
+    adjuster.applyTo(icon);
+    EXPECT_EQ(icon.image.at(0, 0), rgb(253, 2, 0));
+}
+
+TEST(ColourAdjuster, MarksEveryPixelWhoseMaskIsNotBlack) {
+    icon::IconPlanes icon = oneColourIcon(rgb(40, 50, 60));
+    icon.erase(0, 0);
+    icon.mask.set(1, 0, 0xFEFEFE);
+    icon.image.set(1, 0, rgb(9, 9, 9));
+    ColourAdjuster adjuster(icon, rgb(0, 0, 255));
+    const ColourAdjuster::Channels marker{1000, 1000, 1000};
+    EXPECT_EQ(adjuster.reference(0), marker);
+    EXPECT_EQ(adjuster.reference(1), marker);
+    EXPECT_EQ(adjuster.reference(2), (ColourAdjuster::Channels{40, 50, 60}));
+    // The preview starts from the icon as shown over its background.
+    EXPECT_EQ(adjuster.preview().at(0, 0), rgb(0, 0, 255));
+    adjuster.change(Bar::Red, 5);
+    // The step reaches the marked working value too, but never its display value.
+    EXPECT_EQ(adjuster.working(0).red, 1005);
+    EXPECT_EQ(adjuster.display(0), marker);
+    EXPECT_EQ(adjuster.preview().at(0, 0), rgb(0, 0, 255));
+    EXPECT_EQ(adjuster.preview().at(2, 0), rgb(45, 50, 60));
+
+    icon::IconPlanes result = icon;
+    adjuster.applyTo(result);
+    EXPECT_EQ(result.image.at(1, 0), rgb(9, 9, 9));
+    EXPECT_EQ(result.image.at(2, 0), rgb(45, 50, 60));
+    EXPECT_EQ(result.mask, icon.mask);
+}
+
+TEST(ColourAdjuster, ResetReturnsToTheReference) {
+    icon::IconPlanes icon = oneColourIcon(rgb(40, 50, 60));
+    icon.erase(5, 5);
+    ColourAdjuster adjuster(icon, rgb(0, 0, 255));
+    adjuster.change(Bar::Brightness, 30);
+    adjuster.change(Bar::Green, -5);
+    adjuster.reset();
+    for (Bar bar : {Bar::Brightness, Bar::Red, Bar::Green, Bar::Blue})
+        EXPECT_EQ(adjuster.value(bar), 0);
+    EXPECT_EQ(adjuster.working(0), (ColourAdjuster::Channels{40, 50, 60}));
+    EXPECT_EQ(adjuster.preview().at(0, 0), rgb(40, 50, 60));
+    EXPECT_EQ(adjuster.preview().at(5, 5), icon::kWhite); // the marker saturates to white
+    // The bars' previous values are 0 again: setting a bar to 0 makes no step, 5 makes one.
+    adjuster.change(Bar::Red, 0);
+    EXPECT_EQ(adjuster.working(0).red, 40);
+    adjuster.change(Bar::Red, 5);
+    EXPECT_EQ(adjuster.working(0).red, 45);
+    EXPECT_EQ(ColourAdjuster::label(-15), "-15");
+}

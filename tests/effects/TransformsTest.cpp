@@ -1,0 +1,120 @@
+#include "effects/Transforms.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using effects::flipHorizontal;
+using effects::flipVertical;
+using effects::turnLeft;
+using effects::turnRight;
+using icon::Frame;
+using icon::IconBitmap;
+
+namespace {
+
+// A block whose colours are given row by row; pixels of colour 0 are transparent, so that a
+// test can see the mask travel with the colour.
+IconBitmap block(int width, std::vector<icon::Colour> colours) {
+    const int height = static_cast<int>(colours.size()) / width;
+    IconBitmap b{Frame(width, height), Frame(width, height, icon::kBlack)};
+    for (int i = 0; i < static_cast<int>(colours.size()); ++i) {
+        b.image.set(i % width, i / width, colours[i]);
+        if (colours[i] == 0)
+            b.mask.set(i % width, i / width, icon::kWhite);
+    }
+    return b;
+}
+
+IconBitmap patternedIcon() {
+    std::vector<icon::Colour> colours;
+    for (int i = 0; i < 32 * 32; ++i)
+        colours.push_back(i % 7 == 0 ? 0 : static_cast<icon::Colour>(i * 2654435761u) & 0xFFFFFF);
+    return block(32, colours);
+}
+
+struct MapCase {
+    const char* name;
+    IconBitmap (*transform)(const IconBitmap&);
+    IconBitmap expected;
+};
+
+} // namespace
+
+TEST(Transforms, MapEveryPixelOfASmallBlock) {
+    // a b c        flips, turns and their results on a 3×2 block
+    // d e f
+    const IconBitmap source = block(3, {1, 2, 0, 4, 5, 6});
+    const MapCase cases[] = {
+        {"mirror left-right", flipHorizontal, block(3, {0, 2, 1, 6, 5, 4})},
+        {"mirror top-bottom", flipVertical, block(3, {4, 5, 6, 1, 2, 0})},
+        {"turn left", turnLeft, block(2, {0, 6, 2, 5, 1, 4})},
+        {"turn right", turnRight, block(2, {4, 1, 5, 2, 6, 0})},
+    };
+    for (const MapCase& c : cases)
+        EXPECT_EQ(c.transform(source), c.expected) << c.name;
+}
+
+TEST(Transforms, GiveTheIconBackWhenUndoneByThemselves) {
+    const IconBitmap icon = patternedIcon();
+    EXPECT_EQ(turnLeft(turnLeft(turnLeft(turnLeft(icon)))), icon);
+    EXPECT_EQ(turnRight(turnRight(turnRight(turnRight(icon)))), icon);
+    EXPECT_EQ(turnRight(turnLeft(icon)), icon);
+    EXPECT_EQ(flipHorizontal(flipHorizontal(icon)), icon);
+    EXPECT_EQ(flipVertical(flipVertical(icon)), icon);
+    EXPECT_NE(turnLeft(icon), icon);
+    // Two quarter turns make a half turn, whichever way.
+    EXPECT_EQ(turnLeft(turnLeft(icon)), flipVertical(flipHorizontal(icon)));
+}
+
+TEST(Transforms, HalfReflectionsCopyOneHalfOntoTheOther) {
+    // 4×4 block numbered 1..16 row by row.
+    std::vector<icon::Colour> n;
+    for (icon::Colour i = 1; i <= 16; ++i)
+        n.push_back(i);
+    const IconBitmap source = block(4, n);
+    struct Case {
+        int index;
+        std::vector<icon::Colour> expected;
+    } cases[] = {
+        {0, {1, 2, 2, 1, 5, 6, 6, 5, 9, 10, 10, 9, 13, 14, 14, 13}},
+        {1, {4, 3, 3, 4, 8, 7, 7, 8, 12, 11, 11, 12, 16, 15, 15, 16}},
+        {2, {1, 2, 3, 4, 5, 6, 7, 8, 5, 6, 7, 8, 1, 2, 3, 4}},
+        {3, {13, 14, 15, 16, 9, 10, 11, 12, 9, 10, 11, 12, 13, 14, 15, 16}},
+        {4, n},
+        {-1, n},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(effects::halfReflect(source, c.index), block(4, c.expected)) << c.index;
+}
+
+TEST(Transforms, WholeIconLeftRightReflectionKeepsTheLeftHalf) {
+    const IconBitmap icon = patternedIcon();
+    const IconBitmap out = effects::halfReflect(icon, 0);
+    for (int y = 0; y < 32; ++y)
+        for (int x = 0; x < 16; ++x) {
+            ASSERT_EQ(out.image.at(x, y), icon.image.at(x, y));
+            ASSERT_EQ(out.image.at(31 - x, y), icon.image.at(x, y));
+            ASSERT_EQ(out.mask.at(31 - x, y), icon.mask.at(x, y));
+        }
+}
+
+TEST(Transforms, ReflectionsNeedAnEvenSide) {
+    struct Case {
+        int width, height;
+        bool expected[4];
+    } cases[] = {
+        {7, 6, {false, false, true, true}},
+        {6, 7, {true, true, false, false}},
+        {32, 32, {true, true, true, true}},
+        {1, 1, {false, false, false, false}},
+    };
+    for (const Case& c : cases)
+        for (int index = 0; index < 4; ++index)
+            EXPECT_EQ(effects::reflectionAllowed(index, c.width, c.height), c.expected[index])
+                << c.width << "x" << c.height << " entry " << index;
+    EXPECT_FALSE(effects::reflectionAllowed(4, 32, 32));
+    // An odd side is left alone rather than read out of bounds.
+    const IconBitmap odd = block(3, {1, 2, 3});
+    EXPECT_EQ(effects::halfReflect(odd, 0), odd);
+}
