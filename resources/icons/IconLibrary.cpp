@@ -111,4 +111,28 @@ std::vector<icon::LibraryIcon> libraryIcons() {
     return icons;
 }
 
+icon::Frame contactSheet() {
+    const std::vector<IconArt> art = libraryArt();
+    const int perRow = 8;
+    const int cellW = 120;
+    const int cellH = 64;
+    const icon::Colour background = icon::rgb(236, 236, 232);
+    const int rows = (static_cast<int>(art.size()) + perRow - 1) / perRow;
+    icon::Frame sheet(perRow * cellW, rows * cellH, background);
+    for (std::size_t i = 0; i < art.size(); ++i) {
+        int x = static_cast<int>(i % perRow) * cellW + 6;
+        const int y0 = static_cast<int>(i / perRow) * cellH + 8;
+        for (int size : {48, 32, 16}) {
+            if (std::find(art[i].sizes.begin(), art[i].sizes.end(), size) != art[i].sizes.end()) {
+                const icon::Frame shown = icon::composeOver(paint(art[i], size), background);
+                for (int y = 0; y < size; ++y)
+                    for (int px = 0; px < size; ++px)
+                        sheet.set(x + px, y0 + y, shown.at(px, y));
+            }
+            x += size + 6;
+        }
+    }
+    return sheet;
+}
+
 } // namespace iconlib

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "icon/Frame.h"
 #include "icon/IconBitmap.h"
 #include "icon/NeWriter.h"
 #include "resources/icons/IconArt.h"
@@ -23,6 +24,9 @@ std::vector<std::uint8_t> encodeIco(const std::vector<icon::IconBitmap>& images)
 
 // The ICO file of one icon: its sizes from the smallest.
 std::vector<std::uint8_t> iconFile(const IconArt& art);
+
+// Every icon at 48, 32 and 16 pixels over a light grey, eight icons a row: to look them over.
+icon::Frame contactSheet();
 
 // The library's icons, ready for the NE writer.
 std::vector<icon::LibraryIcon> libraryIcons();

@@ -5,6 +5,8 @@
 #include "icon/NeReader.h"
 #include "tests/support/TestData.h"
 
+#include <QDir>
+
 #include <gtest/gtest.h>
 
 #include <set>
@@ -46,6 +48,10 @@ TEST(IconLibrary, HoldsManyIconsEachAt32AndMostAtThreeSizes) {
 }
 
 TEST(IconLibrary, IconsAreDrawnNotEmpty) {
+    // A sheet of every icon, to look at.
+    EXPECT_TRUE(iconlib::contactSheet().toImage().save(
+        QDir(testsupport::screenshotFolder()).filePath("icon_library.png")));
+
     // Each 32×32 image has both opaque and transparent pixels and more than a couple of colours,
     // and no two icons look the same.
     std::set<std::vector<Colour>> seen;
