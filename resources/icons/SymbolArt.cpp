@@ -1,6 +1,7 @@
 #include "resources/icons/Drawing.h"
 #include "resources/icons/IconArt.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -120,21 +121,27 @@ void pixelGrid(Sketch& s) {
         s.fill(rect(2 + 4 * i - 0.5, 2, 2 + 4 * i + 0.5, 30), silver);
         s.fill(rect(2, 2 + 4 * i - 0.5, 30, 2 + 4 * i + 0.5), silver);
     }
-    const int heartCells[][2] = {{2, 2}, {4, 2}, {1, 3}, {2, 3}, {3, 3}, {4, 3}, {5, 3},
-                                 {2, 4}, {3, 4}, {4, 4}, {3, 5}, {1, 2}, {5, 2}};
-    for (const auto& c : heartCells)
-        s.fill(rect(2.5 + 4 * c[0], 2.5 + 4 * c[1], 5.5 + 4 * c[0], 5.5 + 4 * c[1]), red);
+    // A heart drawn cell by cell, as in the editor.
+    const char* const heart[] = {".XX.XX.", "XXXXXXX", "XXXXXXX", ".XXXXX.", "..XXX..", "...X..."};
+    for (int row = 0; row < 6; ++row)
+        for (int col = 0; col < 7; ++col)
+            if (heart[row][col] == 'X')
+                s.fill(rect(2.5 + 4 * col, 6.5 + 4 * row, 5.5 + 4 * col, 9.5 + 4 * row),
+                       shaded(red, 6.5 + 4 * row, 9.5 + 4 * row));
 }
 
 void selection(Sketch& s) {
+    // The marching ants of a selection around a pale area.
     s.fill(rect(3, 3, 29, 29), lighten(sky, 0.6));
     for (int i = 0; i < 7; ++i) {
         const double a = 3 + 4 * i;
+        const double b = std::min(a + 4, 29.0);
         const icon::Colour c = i % 2 ? white : ink;
-        s.fill(rect(a, 3, a + 4, 5), c);
-        s.fill(rect(a - 0, 27, a + 4, 29), i % 2 ? ink : white);
-        s.fill(rect(3, a, 5, a + 4), i % 2 ? ink : white);
-        s.fill(rect(27, a, 29, a + 4), c);
+        const icon::Colour d = i % 2 ? ink : white;
+        s.fill(rect(a, 3, b, 5), c);
+        s.fill(rect(a, 27, b, 29), d);
+        s.fill(rect(3, a, 5, b), d);
+        s.fill(rect(27, a, 29, b), c);
     }
 }
 
