@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace browser {
+
+// One icon file of the folder: the real path to read it by, and the lower-cased path the
+// program has always shown.
+struct IconEntry {
+    QString file;
+    QString shown;
+};
+
+// The folder path as the browser uses it: always with a trailing "/".
+QString withTrailingSlash(const QString& folder);
+
+// Every file of the folder whose name ends in ".ico" in any case, by name without regard to
+// case. Reads no icon. Nothing when the folder cannot be read (it no longer exists).
+std::optional<std::vector<IconEntry>> scanIconFolder(const QString& folder);
+
+} // namespace browser

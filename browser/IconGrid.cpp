@@ -1,0 +1,149 @@
+#include "browser/IconGrid.h"
+
+#include "icon/FileBytes.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace browser {
+
+IconGrid::IconGrid(const ThumbnailProvider& provider)
+    : m_provider(provider) {}
+
+const GridGeometry& IconGrid::geometry() const {
+    static constexpr GridGeometry small = GridGeometry::of(GridView::Icons32);
+    static constexpr GridGeometry large = GridGeometry::of(GridView::Icons48);
+    return m_view == GridView::Icons48 ? large : small;
+}
+
+ScanResult IconGrid::openFolder(const QString& folder) {
+    return list(folder, false);
+}
+
+ScanResult IconGrid::refresh() {
+    return list(m_folder, true);
+}
+
+ScanResult IconGrid::switchView() {
+    m_view = m_view == GridView::Icons48 ? GridView::Icons32 : GridView::Icons48;
+    return refresh();
+}
+
+ScanResult IconGrid::list(const QString& folder, bool keepIndex) {
+    auto scanned = scanIconFolder(folder);
+    if (!scanned)
+        return ScanResult::FolderMissing;
+    m_folder = withTrailingSlash(folder);
+    m_cache.clear();
+    ViewState& view = state();
+    view.entries = std::move(*scanned);
+    const int total = count();
+    if (total == 0)
+        view.current = 0;
+    else if (!keepIndex)
+        view.current = 1;
+    else
+        view.current = std::clamp(view.current, 1, total);
+    return total == 0 ? ScanResult::Empty : ScanResult::Listed;
+}
+
+void IconGrid::moveTo(int index) {
+    if (count() == 0)
+        return;
+    state().current = std::clamp(index, 1, count());
+}
+
+void IconGrid::clickCell(int cell) {
+    if (cell < 0 || cell >= geometry().cellCount())
+        return;
+    moveTo(current() + cell - geometry().centre);
+}
+
+std::optional<int> IconGrid::entryOfCell(int cell) const {
+    if (cell < 0 || cell >= geometry().cellCount() || count() == 0)
+        return std::nullopt;
+    const int index = current() + cell - geometry().centre;
+    if (index < 1 || index > count())
+        return std::nullopt;
+    return index;
+}
+
+const IconEntry* IconGrid::centred() const {
+    if (count() == 0)
+        return nullptr;
+    return &state().entries[static_cast<std::size_t>(current() - 1)];
+}
+
+QString IconGrid::pathText() const {
+    if (const IconEntry* entry = centred())
+        return entry->shown;
+    return QStringLiteral("Sélectionnez un dossier contenant des icônes (*.ico)");
+}
+
+QString IconGrid::countText() const {
+    const int total = count();
+    if (total == 0)
+        return QStringLiteral("Dossier vide...");
+    return QString::number(total) +
+           (total == 1 ? QStringLiteral(" icône") : QStringLiteral(" icônes"));
+}
+
+Thumbnail IconGrid::load(const IconEntry& entry) const {
+    Thumbnail thumbnail;
+    const auto bytes = icon::readFileBytes(entry.file);
+    if (!bytes) {
+        thumbnail.state = QFileInfo::exists(entry.file) ? Thumbnail::State::Unreadable
+                                                        : Thumbnail::State::Missing;
+        return thumbnail;
+    }
+    auto bitmap = m_provider.decode(*bytes, geometry().cellSize);
+    if (!bitmap || bitmap->isEmpty()) {
+        thumbnail.state = Thumbnail::State::Unreadable;
+        return thumbnail;
+    }
+    thumbnail.state = Thumbnail::State::Icon;
+    thumbnail.bitmap = std::move(*bitmap);
+    return thumbnail;
+}
+
+bool IconGrid::loadPage() {
+    for (int k = 0; k < geometry().cellCount(); ++k) {
+        const auto index = entryOfCell(k);
+        if (!index)
+            continue;
+        const IconEntry& entry = state().entries[static_cast<std::size_t>(*index - 1)];
+        if (m_cache.contains(entry.file))
+            continue;
+        Thumbnail thumbnail = load(entry);
+        // A file that has gone is never kept: it may come back before the next look.
+        if (thumbnail.state == Thumbnail::State::Missing)
+            return false;
+        m_cache.insert(entry.file, std::move(thumbnail));
+    }
+    return true;
+}
+
+const Thumbnail* IconGrid::cell(int cell) const {
+    const auto index = entryOfCell(cell);
+    if (!index)
+        return nullptr;
+    const auto found =
+        m_cache.constFind(state().entries[static_cast<std::size_t>(*index - 1)].file);
+    return found == m_cache.constEnd() ? nullptr : &found.value();
+}
+
+bool IconGrid::reloadCentre() {
+    const IconEntry* entry = centred();
+    if (entry == nullptr)
+        return true;
+    Thumbnail thumbnail = load(*entry);
+    if (thumbnail.state == Thumbnail::State::Missing) {
+        m_cache.remove(entry->file);
+        return false;
+    }
+    m_cache.insert(entry->file, std::move(thumbnail));
+    return true;
+}
+
+} // namespace browser

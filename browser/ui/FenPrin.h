@@ -1,0 +1,100 @@
+#pragma once
+
+#include "browser/IconGrid.h"
+#include "browser/ThumbnailProvider.h"
+#include "browser/Volumes.h"
+
+#include <QSet>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QComboBox;
+class QListWidget;
+class QListWidgetItem;
+
+namespace platform {
+class GradientButton;
+class GradientPanel;
+} // namespace platform
+
+namespace browser::ui {
+
+class IconGridView;
+class PopUpInfos;
+
+// The main window: drive and folder lists, the grid of icons around the centred one, the
+// commands on the centred icon and the pop-up panel of preferences.
+class FenPrin : public QWidget {
+    Q_OBJECT
+public:
+    // The provider decodes the cells; the window does not own it.
+    explicit FenPrin(const ThumbnailProvider& provider, QWidget* parent = nullptr);
+    ~FenPrin() override;
+
+    enum class MissingFolder { Report, KeepQuiet };
+    // Opens a folder as a click in the folder list does (the start-up folder, tests). A folder
+    // that cannot be read is reported, or passed over in silence as a drive that cannot be read.
+    void openFolder(const QString& folder, MissingFolder report = MissingFolder::Report);
+    // The scan of the folder shown, keeping the index (after a copy, rename or delete).
+    void reactualiser();
+    // Applies the interface colours to every control of the window.
+    void applyColours();
+
+    const IconGrid& grid() const { return m_grid; }
+    QString countText() const;
+    QString pathText() const;
+    // The icon editor, brought up by the centre picture's right button once it exists.
+    void setEditorLauncher(std::function<void()> launcher) { m_showEditor = std::move(launcher); }
+    // Marks a command as working: it is enabled with the other file commands.
+    void setCommandReady(const QString& name);
+
+signals:
+    void aboutRequested();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildTitleRow();
+    void buildLists();
+    void buildCommands();
+    void buildGrid();
+    void buildMoves();
+    platform::GradientButton* addCommand(const char* name, const QString& caption,
+                                         const QString& help, const QRect& place);
+
+    void showFolderMissing();
+    void showScanResult(ScanResult result);
+    void displayGrid();
+    void clearGrid();
+    void enableCommands(bool on);
+    void moveIndex(const std::function<void()>& step);
+    void fillFolderList(const QString& folder);
+    void folderItemClicked(QListWidgetItem* item);
+    void driveChosen(int index);
+    void switchView();
+    void centreRightPressed();
+    void reloadCentre();
+    void chooseGridBackground(bool centre);
+    void showFileMissing();
+    void hidePopUp();
+    void togglePopUp();
+    void placeGrids();
+
+    IconGrid m_grid;
+    std::vector<Volume> m_volumes;
+    QString m_folder;
+    QComboBox* m_drives = nullptr;
+    QListWidget* m_folders = nullptr;
+    IconGridView* m_fond = nullptr;
+    IconGridView* m_fond48 = nullptr;
+    platform::GradientPanel* m_path = nullptr;
+    platform::GradientPanel* m_count = nullptr;
+    PopUpInfos* m_popUp = nullptr;
+    QSet<QString> m_ready;
+    std::function<void()> m_showEditor;
+};
+
+} // namespace browser::ui

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "shell/Preferences.h"
+
+#include <QString>
+
+namespace shell {
+
+// What the windows of one run share: the preferences in force and the icon handed to the
+// editor. The main window loads it; every other window reads it when it loads.
+struct AppState {
+    Preferences preferences;
+    QString iconToEdit;
+};
+
+AppState& appState();
+
+} // namespace shell

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "browser/ThumbnailProvider.h"
+#include "browser/ui/FenPrin.h"
+#include "shell/ui/Demarre2.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace shell::ui {
+
+// How the program starts: the splash and its single-instance question, then the main window on
+// the current folder, then the tips when the tips flag says "Oui".
+class Startup : public QObject {
+    Q_OBJECT
+public:
+    explicit Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds = 700);
+    ~Startup() override;
+
+    // False when another instance runs and the user chose not to start a new one.
+    bool begin(bool anotherInstanceRuns);
+
+    Demarre2& splash() { return m_splash; }
+    browser::ui::FenPrin* mainWindow() { return m_main.get(); }
+
+signals:
+    void mainWindowShown();
+
+private:
+    void showMainWindow();
+    void showTipsAtStart();
+    void showAbout();
+    void report() const;
+
+    const browser::ThumbnailProvider& m_provider;
+    int m_splashMilliseconds;
+    Demarre2 m_splash;
+    std::unique_ptr<browser::ui::FenPrin> m_main;
+};
+
+} // namespace shell::ui

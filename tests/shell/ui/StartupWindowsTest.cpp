@@ -1,0 +1,224 @@
+#include "browser/ThumbnailProvider.h"
+#include "platform/GradientButton.h"
+#include "platform/Recorders.h"
+#include "platform/ScriptedDialogs.h"
+#include "platform/Services.h"
+#include "shell/AppState.h"
+#include "shell/Settings.h"
+#include "shell/ui/Apropos.h"
+#include "shell/ui/Avertis.h"
+#include "shell/ui/Conseils.h"
+#include "shell/ui/Demarre2.h"
+#include "shell/ui/Startup.h"
+#include "tests/support/Screenshot.h"
+#include "tests/support/TestData.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::Asked;
+
+class StartupWindows : public ::testing::Test {
+protected:
+    void SetUp() override { shell::Settings().deleteAll(); }
+    void TearDown() override { shell::Settings().deleteAll(); }
+    template <typename T>
+    T* find(QWidget& window, const char* name) {
+        return window.findChild<T*>(QString::fromLatin1(name));
+    }
+    void click(QWidget& window, const char* name) {
+        QTest::mouseClick(find<QAbstractButton>(window, name), Qt::LeftButton);
+    }
+
+    platform::ScriptedDialogs m_dialogs;
+    platform::RecordingSound m_sound;
+    platform::RecordingLauncher m_launcher;
+    platform::ServicesOverride m_services{&m_dialogs, &m_sound, &m_launcher};
+};
+
+TEST_F(StartupWindows, Demarre2AsksBeforeASecondInstanceWithNoAsTheDefault) {
+    for (const auto answer : {platform::Answer::No, platform::Answer::Yes}) {
+        m_dialogs.answer(answer);
+        EXPECT_EQ(shell::ui::Demarre2::askForSecondInstance(), answer == platform::Answer::Yes);
+        const Asked& asked = m_dialogs.last();
+        EXPECT_EQ(asked.title, QStringLiteral("Orvanne®"));
+        EXPECT_EQ(asked.text,
+                  QStringLiteral("Orvanne® est déjà en cours d'exécution.\nSouhaitez-vous "
+                                 "exécuter une nouvelle instance ?"));
+        EXPECT_EQ(asked.icon, platform::MessageIcon::Exclamation);
+        EXPECT_EQ(asked.buttons, platform::MessageButtons::YesNo);
+        EXPECT_EQ(asked.defaultButton, 2);
+    }
+}
+
+TEST_F(StartupWindows, Demarre2ShowsItsLabels) {
+    shell::ui::Demarre2 splash;
+    splash.show();
+    EXPECT_EQ(splash.windowTitle(), QStringLiteral("Démarrage"));
+    QStringList texts;
+    for (auto* label : splash.findChildren<QLabel*>())
+        texts << label->text();
+    EXPECT_TRUE(texts.contains(QStringLiteral("Un instant, SVP...")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("Orvanne®")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("Version 3.10 - Février 2002")));
+    testsupport::saveScreenshot(splash, QStringLiteral("Demarre2"));
+}
+
+TEST_F(StartupWindows, NoToTheSecondInstanceEndsTheStart) {
+    browser::IcoThumbnailProvider provider;
+    shell::ui::Startup startup(provider, 1);
+    m_dialogs.answer(platform::Answer::No);
+    EXPECT_FALSE(startup.begin(true));
+    EXPECT_FALSE(startup.splash().isVisible());
+}
+
+TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
+    QTemporaryDir folder;
+    for (const QString& file : testsupport::testFiles(QStringLiteral("ico/valid")).mid(0, 9))
+        QFile::copy(file, QDir(folder.path()).filePath(QFileInfo(file).fileName()));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    browser::IcoThumbnailProvider provider;
+    shell::ui::Startup startup(provider, 1);
+    QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
+    m_dialogs.onModal(
+        [](QDialog& tips) { EXPECT_EQ(tips.objectName(), QStringLiteral("Conseils")); });
+    ASSERT_TRUE(startup.begin(false));
+    ASSERT_TRUE(shown.wait(3000));
+    QDir::setCurrent(before);
+    ASSERT_NE(startup.mainWindow(), nullptr);
+    EXPECT_EQ(startup.mainWindow()->countText(), QStringLiteral("9 icônes"));
+    QTest::qWait(20);
+    ASSERT_EQ(m_dialogs.asked().size(), 1u);
+    EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::Modal);
+    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Conseils"));
+}
+
+TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
+    shell::Settings().save(shell::keys::kTipsAtStart, QStringLiteral("Non"));
+    browser::IcoThumbnailProvider provider;
+    shell::ui::Startup startup(provider, 1);
+    QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
+    ASSERT_TRUE(startup.begin(false));
+    ASSERT_TRUE(shown.wait(3000));
+    QTest::qWait(20);
+    EXPECT_TRUE(m_dialogs.asked().empty());
+    startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdApropos"))->click();
+    EXPECT_EQ(
+        startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdConseilDem"))->text(),
+        QStringLiteral("Conseils au démarrage"));
+}
+
+TEST_F(StartupWindows, ConseilsShowsARandomTipAndGoesRound) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("Conseils.txt"));
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write("Premier conseil\nDeuxième conseil\nTroisième conseil\n");
+    file.close();
+    shell::ui::Conseils tips(
+        nullptr, [] { return 0.5; }, path);
+    EXPECT_EQ(tips.tipText(), QStringLiteral("Deuxième conseil"));
+    for (int i = 0; i < 3; ++i)
+        click(tips, "CmdNextTip");
+    EXPECT_EQ(tips.tipText(), QStringLiteral("Deuxième conseil"));
+    click(tips, "CmdNextTip");
+    EXPECT_EQ(tips.tipText(), QStringLiteral("Troisième conseil"));
+}
+
+TEST_F(StartupWindows, ConseilsCheckBoxWritesTheTipsFlag) {
+    shell::ui::Conseils tips(nullptr, [] { return 0.0; });
+    auto* check = find<QCheckBox>(tips, "chkLoadTipsAtStartup");
+    EXPECT_EQ(check->text(), QStringLiteral("Afficher les conseils à l'ouverture"));
+    EXPECT_TRUE(check->isChecked());
+    check->click();
+    EXPECT_EQ(shell::Settings().read(shell::keys::kTipsAtStart), QStringLiteral("Non"));
+    EXPECT_FALSE(shell::appState().preferences.tipsAtStart);
+    shell::ui::Conseils again(nullptr, [] { return 0.0; });
+    EXPECT_FALSE(find<QCheckBox>(again, "chkLoadTipsAtStartup")->isChecked());
+    find<QCheckBox>(again, "chkLoadTipsAtStartup")->click();
+    EXPECT_EQ(shell::Settings().read(shell::keys::kTipsAtStart), QStringLiteral("Oui"));
+}
+
+TEST_F(StartupWindows, ConseilsWithoutItsFileSaysSoAndStaysUsable) {
+    shell::ui::Conseils tips(
+        nullptr, [] { return 0.0; }, QStringLiteral("/nonexistent/Conseils.txt"));
+    EXPECT_EQ(tips.tipText(),
+              QStringLiteral("Le fichier Conseils.txt n'a pas été trouvé.\r\n\r\n"
+                             "Vous n'auriez pas dû le supprimer du dossier de Orvanne®"));
+    click(tips, "CmdNextTip");
+    EXPECT_EQ(tips.tipText(), shell::Tips::missingFileText());
+    tips.show();
+    click(tips, "CmdOK");
+    EXPECT_FALSE(tips.isVisible());
+}
+
+TEST_F(StartupWindows, ConseilsScreenshotWithTheProgramsTips) {
+    shell::ui::Conseils tips(nullptr, [] { return 0.0; });
+    EXPECT_GE(tips.tips().count(), 25);
+    tips.show();
+    testsupport::saveScreenshot(tips, QStringLiteral("Conseils"));
+}
+
+TEST_F(StartupWindows, AproposDrawsItsLinesAnimatesAndOpensTheProgramsPage) {
+    shell::ui::Apropos about;
+    const QStringList lines = shell::ui::Apropos::lines();
+    EXPECT_EQ(lines[0], QStringLiteral("         Orvanne®"));
+    EXPECT_EQ(lines[2], QStringLiteral("                   édition d'icônes"));
+    EXPECT_EQ(lines[6], QStringLiteral("         Version 3.10 - Février 2002"));
+    about.show();
+    const int phase = about.phase();
+    QTest::qWait(150);
+    EXPECT_NE(about.phase(), phase) << "Minuterie1 animates the box";
+    click(about, "CmdSite");
+    ASSERT_EQ(m_launcher.documents.size(), 1);
+    EXPECT_TRUE(m_launcher.documents[0].isLocalFile());
+    EXPECT_TRUE(QFileInfo::exists(m_launcher.documents[0].toLocalFile()));
+    testsupport::saveScreenshot(about, QStringLiteral("Apropos"));
+    click(about, "CmdFermer");
+    EXPECT_FALSE(about.isVisible());
+}
+
+TEST_F(StartupWindows, AvertisTicksFromTheSettingAndStoresTheAnswer) {
+    shell::ui::Avertis warning;
+    EXPECT_EQ(warning.windowTitle(), QStringLiteral("Orvanne® - Avertissement"));
+    EXPECT_EQ(find<QAbstractButton>(warning, "CmdDeplaceFen")->text(),
+              QStringLiteral("Orvanne® - Avertissement"));
+    auto* check = find<QCheckBox>(warning, "Coche1");
+    EXPECT_EQ(check->text(), QStringLiteral("Ne plus poser la question"));
+    EXPECT_FALSE(check->isChecked());
+    check->click();
+    EXPECT_EQ(shell::Settings().read(shell::keys::kDepthWarning), QStringLiteral("Non"));
+    EXPECT_FALSE(shell::ui::Avertis::shouldWarn());
+    shell::ui::Avertis again;
+    EXPECT_TRUE(find<QCheckBox>(again, "Coche1")->isChecked());
+    find<QCheckBox>(again, "Coche1")->click();
+    EXPECT_EQ(shell::Settings().read(shell::keys::kDepthWarning), QStringLiteral("Oui"));
+    warning.show();
+    testsupport::saveScreenshot(warning, QStringLiteral("Avertis"));
+}
+
+TEST_F(StartupWindows, AvertisOkSwitchesToTrueColourOrSaysItCannot) {
+    shell::ui::Avertis warning;
+    warning.show();
+    click(warning, "CmdOK");
+    EXPECT_FALSE(warning.isVisible());
+    // The offscreen screen is true colour already: the switch has nothing to do and clicks.
+    EXPECT_EQ(m_sound.clicks, 1);
+    EXPECT_TRUE(m_dialogs.asked().empty());
+    bool hasLabel = false;
+    for (auto* label : warning.findChildren<QLabel*>())
+        hasLabel = hasLabel || label->text() == shell::ui::Avertis::warningText();
+    EXPECT_TRUE(hasLabel);
+}
+
+} // namespace
