@@ -10,9 +10,6 @@
 
 namespace iconlib {
 
-// The library's file name, beside the program and in its data folder.
-inline constexpr const char* kLibraryFileName = "Orvanne®.icl";
-
 // Every icon of the library, in order.
 std::vector<IconArt> libraryArt();
 
