@@ -18,8 +18,9 @@ struct LibraryIcon {
 
 // Writes a 16-bit icon library: a DOS stub, an NE header and a resource table holding one
 // icon group (RT_GROUP_ICON) per icon, in the given order, and one icon resource (RT_ICON)
-// per image, numbered from 1. Unnamed groups are numbered from 1 in their order. Nothing when
-// an ICO file is malformed, a name is not plain ASCII, or the icons do not fit in the format.
+// per image, numbered from 1. An unnamed group is numbered by its place in the list (from 1).
+// Nothing when an ICO file is malformed, a name is not plain ASCII, or the icons do not fit in
+// the format.
 std::optional<std::vector<std::uint8_t>> writeNeIconLibrary(const std::vector<LibraryIcon>& icons,
                                                             const QString& moduleName,
                                                             const QString& description);
