@@ -5,4 +5,4 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 bash "$root/bench/setup.sh"
 bash "$root/scripts/build.sh" >/dev/null
-exec "$root/build/bin/pe_extract_bench" "$@"
+exec "$root/build/bin/bench_pe_extract" "$@"

@@ -1,6 +1,6 @@
 // Extracts every icon group of PE files to .ico files, side by side with wrestool -x -t 14
 // (Debian's icoutils), and compares the outputs.
-//   pe_extract_bench [--rounds N] [--all | FILE...]
+//   bench_pe_extract [--rounds N] [--all | FILE...]
 // Without a file, the largest PE file of the shared test data. --all takes every PE file there.
 // Three timings a round, each the median over the rounds:
 //   - this program's readers in the process: read the file, find the groups, write the files;
