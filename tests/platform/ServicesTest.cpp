@@ -205,8 +205,9 @@ TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
     EXPECT_TRUE(viewer->toPlainText().contains(QStringLiteral("Le visualiseur.")));
     viewer->close();
     qunsetenv("ORVANNE_DATA_DIR");
-    if (platform::HelpViewer::helpFolder().isEmpty())
+    if (platform::HelpViewer::helpFolder().isEmpty()) {
         EXPECT_FALSE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
+    }
 }
 
 } // namespace
