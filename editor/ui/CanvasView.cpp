@@ -97,8 +97,6 @@ void CanvasView::mousePressEvent(QMouseEvent* event) {
     emit pressed();
     const QPointF p = event->position();
     const Events events = m_engine.press(engineButton(event->button()), p.x(), p.y());
-    if (events & kRedraw)
-        refresh();
     emit engineEvents(events);
 }
 
@@ -106,8 +104,6 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     const QPointF p = event->position();
     const Events events = m_engine.move(heldButton(event->buttons()), p.x(), p.y());
     updatePointer(p.x(), p.y());
-    if (events & kRedraw)
-        refresh();
     emit engineEvents(events);
 }
 
@@ -115,8 +111,6 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF p = event->position();
     const Events events = m_engine.release(engineButton(event->button()), p.x(), p.y());
     updatePointer(p.x(), p.y());
-    if (events & kRedraw)
-        refresh();
     emit engineEvents(events);
 }
 

@@ -25,7 +25,7 @@ public:
     const QImage& picture() const { return m_picture; }
 
 signals:
-    // What an engine call answered, for the window to act on.
+    // What an engine call answered, for the window to act on (it repaints the canvas too).
     void engineEvents(editor::Events events);
     void pressed();
 
