@@ -22,5 +22,7 @@ struct Command {
 int runInfo(const Arguments& args, Console& console);
 int runToIco(const Arguments& args, Console& console);
 int runToBmp(const Arguments& args, Console& console);
+int runList(const Arguments& args, Console& console);
+int runExtract(const Arguments& args, Console& console);
 
 } // namespace cli

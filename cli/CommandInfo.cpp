@@ -11,14 +11,6 @@ QString formatName(icon::ImageFormat format) {
     return format == icon::ImageFormat::Png ? QStringLiteral("PNG") : QStringLiteral("BMP");
 }
 
-// The image the editor really takes: the first in its order of preference that decodes.
-int takenImage(const std::vector<std::uint8_t>& bytes, const icon::IcoDirectory& directory) {
-    for (int index : icon::rankImages(directory, icon::kIconSize))
-        if (icon::decodeImage(bytes, directory.images[static_cast<std::size_t>(index)]))
-            return index;
-    return -1;
-}
-
 } // namespace
 
 int runInfo(const Arguments& args, Console& console) {
@@ -49,13 +41,14 @@ int runInfo(const Arguments& args, Console& console) {
         out << (im.usable ? "" : "  illisible") << "\n";
     }
 
-    const int taken = takenImage(*bytes, *directory);
-    if (taken < 0)
+    const std::optional<icon::ChosenImage> chosen =
+        icon::decodeChosenImage(*bytes, *directory, icon::kIconSize);
+    if (!chosen)
         return console.fail(kRefused,
                             QStringLiteral("aucune image de %1 n'est lisible.").arg(quoted(path)));
-    const icon::IcoImageInfo& im = directory->images[static_cast<std::size_t>(taken)];
-    const bool exact = im.width == icon::kIconSize && im.height == icon::kIconSize;
-    out << "L'éditeur prend l'image " << taken + 1
+    const icon::IcoImageInfo& taken = directory->images[static_cast<std::size_t>(chosen->index)];
+    const bool exact = taken.width == icon::kIconSize && taken.height == icon::kIconSize;
+    out << "L'éditeur prend l'image " << chosen->index + 1
         << (exact ? " telle quelle, en 32×32." : ", ramenée à 32×32.") << "\n";
     return kSuccess;
 }

@@ -1,27 +1,43 @@
 #include "cli/Command.h"
 #include "cli/Input.h"
+#include "cli/SourceInput.h"
 
 #include "icon/IcoReader.h"
 #include "icon/IcoWriter.h"
+#include "icon/IconSource.h"
 
 namespace cli {
 
-// Opens the input as the icon editor opens a file and writes it as the editor saves it.
+// Takes icon N (1 by default) of any file that holds icons at 32×32 as the icon editor opens
+// an icon file, and writes it as the editor saves it.
 int runToIco(const Arguments& args, Console& console) {
     const QString input = args.at(0);
     const QString output = args.at(1);
     const std::optional<std::vector<std::uint8_t>> bytes = readInput(input, console);
     if (!bytes)
         return kRefused;
-    if (!icon::isLoadablePicture(*bytes))
-        return console.fail(kRefused,
-                            QStringLiteral("%1 n'est pas une image lisible.").arg(quoted(input)));
-    // A picture that holds no icon (a PNG named .ico) would open as a blank icon in the editor;
-    // a script is better told.
-    const std::optional<icon::IconPlanes> planes = icon::decodeIconPlanes(*bytes);
-    if (!planes)
+    const std::optional<icon::IconSource> source = icon::IconSource::fromBytes(*bytes);
+    if (!source) {
+        if (!icon::isLoadablePicture(*bytes))
+            return console.fail(
+                kRefused, QStringLiteral("%1 n'est pas une image lisible.").arg(quoted(input)));
+        // A picture that holds no icon (a PNG named .ico) would open as a blank icon in the
+        // editor; a script is better told.
         return console.fail(kRefused,
                             QStringLiteral("%1 ne contient aucune icône.").arg(quoted(input)));
+    }
+    const Index index = indexOption(args, *source, input, console);
+    if (index.failure != 0)
+        return index.failure;
+    if (source->count() == 0)
+        return console.fail(kRefused,
+                            QStringLiteral("%1 ne contient aucune icône.").arg(quoted(input)));
+    const int n = index.number.value_or(1);
+    const std::optional<icon::IconPlanes> planes = icon::decodeIconPlanes(source->icoBytes(n));
+    if (!planes)
+        return console.fail(kRefused, QStringLiteral("l'icône n°%1 de %2 n'a aucune image lisible.")
+                                          .arg(n)
+                                          .arg(quoted(input)));
     const icon::SaveResult saved = icon::writeIconFile(output, *planes);
     if (!saved)
         return console.fail(kRefused, saved.message);

@@ -18,10 +18,10 @@ const std::array kCommands{
             1,
             cli::runInfo},
     Command{"to-ico",
-            "to-ico ENTRÉE SORTIE",
-            "Ouvre ENTRÉE comme l'éditeur d'icônes et l'enregistre comme lui dans SORTIE "
-            "(32×32, 24 bits, 3262 octets).",
-            {},
+            "to-ico ENTRÉE SORTIE [--index N]",
+            "Ouvre l'icône N (1 par défaut) de ENTRÉE comme l'éditeur d'icônes et l'enregistre "
+            "comme lui dans SORTIE (32×32, 24 bits, 3262 octets).",
+            {QStringLiteral("--index")},
             2,
             2,
             cli::runToIco},
@@ -33,6 +33,22 @@ const std::array kCommands{
             2,
             2,
             cli::runToBmp},
+    Command{"list",
+            "list FICHIER",
+            "Compte les icônes d'un fichier ICO, CUR, ANI, EXE, DLL ou ICL et décrit chacune : "
+            "ses images et, dans un exécutable, le nom ou le numéro de sa ressource.",
+            {},
+            1,
+            1,
+            cli::runList},
+    Command{"extract",
+            "extract FICHIER DOSSIER [--index N]",
+            "Écrit chaque icône du fichier (ou l'icône N) dans DOSSIER, en fichier ICO complet "
+            "nommé d'après le fichier et le numéro de l'icône.",
+            {QStringLiteral("--index")},
+            2,
+            2,
+            cli::runExtract},
 };
 
 void printUsage(QTextStream& out) {

@@ -103,6 +103,25 @@ struct RowDecoder {
     }
 };
 
+// True when some pixel has a non-zero alpha value.
+bool hasAlpha(std::span<const std::uint8_t> dib, const DibLayout& l) {
+    if (l.masks[3] == 0 || (l.bitCount != 32 && l.bitCount != 16))
+        return false;
+    const std::size_t bytesPerPixel = static_cast<std::size_t>(l.bitCount) / 8;
+    for (std::size_t row = 0; row < static_cast<std::size_t>(l.height); ++row) {
+        const std::span<const std::uint8_t> pixels =
+            dib.subspan(l.pixelOffset + row * l.rowBytes, l.rowBytes);
+        for (std::size_t x = 0; x < static_cast<std::size_t>(l.width); ++x) {
+            std::uint32_t px = 0;
+            for (std::size_t b = bytesPerPixel; b-- > 0;)
+                px = px << 8 | pixels[x * bytesPerPixel + b];
+            if ((px & l.masks[3]) != 0)
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 std::optional<DibLayout> readDibLayout(std::span<const std::uint8_t> dib, int fallbackWidth,
@@ -182,7 +201,9 @@ std::optional<DibLayout> readDibLayout(std::span<const std::uint8_t> dib, int fa
 }
 
 std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int fallbackWidth,
-                                        int fallbackHeight) {
+                                        int fallbackHeight, int outputWidth, int outputHeight) {
+    if (outputWidth > kMaxPngSide || outputHeight > kMaxPngSide)
+        return std::nullopt;
     const std::optional<DibLayout> layout = readDibLayout(dib, fallbackWidth, fallbackHeight);
     if (!layout)
         return std::nullopt;
@@ -201,40 +222,44 @@ std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int f
 
     const std::size_t width = static_cast<std::size_t>(l.width);
     const std::size_t height = static_cast<std::size_t>(l.height);
+    const std::size_t outWidth = outputWidth > 0 ? static_cast<std::size_t>(outputWidth) : width;
+    const std::size_t outHeight =
+        outputHeight > 0 ? static_cast<std::size_t>(outputHeight) : height;
     const RowDecoder decoder(l, palette);
     std::vector<Colour> colours(width);
     std::vector<std::uint32_t> alphas(width, 0);
 
     // Modern icons keep transparency in the alpha channel, often with an empty AND mask. Icons
     // written before alpha existed leave those bytes at zero, and then the mask decides.
-    bool alphaDecides = false;
-    if (l.masks[3] != 0 && (l.bitCount == 32 || l.bitCount == 16)) {
-        for (std::size_t row = 0; row < height && !alphaDecides; ++row) {
-            decoder.decode(dib.subspan(l.pixelOffset + row * l.rowBytes, l.rowBytes), colours,
-                           alphas);
-            for (std::uint32_t a : alphas)
-                alphaDecides = alphaDecides || a != 0;
-        }
-    }
+    const bool alphaDecides = hasAlpha(dib, l);
     const Channel alpha(l.masks[3]);
     const std::uint32_t alphaHalf = (alpha.max + 1) / 2; // 128 for 8-bit alpha
 
+    // Output pixel (x, y) takes source pixel (x·width/outWidth, y·height/outHeight): pixels are
+    // dropped or repeated, never blended, and only the rows used are decoded.
     const std::size_t maskStart = l.pixelOffset + l.rowBytes * height;
-    IconBitmap out{Frame(l.width, l.height, kBlack), Frame(l.width, l.height, kWhite)};
-    for (std::size_t y = 0; y < height; ++y) {
-        const std::size_t source = l.topDown ? y : height - 1 - y;
-        decoder.decode(dib.subspan(l.pixelOffset + source * l.rowBytes, l.rowBytes), colours,
-                       alphas);
+    IconBitmap out{Frame(static_cast<int>(outWidth), static_cast<int>(outHeight), kBlack),
+                   Frame(static_cast<int>(outWidth), static_cast<int>(outHeight), kWhite)};
+    std::size_t decodedRow = height; // none yet
+    for (std::size_t y = 0; y < outHeight; ++y) {
+        const std::size_t sy = y * height / outHeight;
+        const std::size_t source = l.topDown ? sy : height - 1 - sy;
+        if (source != decodedRow) {
+            decoder.decode(dib.subspan(l.pixelOffset + source * l.rowBytes, l.rowBytes), colours,
+                           alphas);
+            decodedRow = source;
+        }
         const std::span<const std::uint8_t> maskRow =
             reader.sliceClamped(maskStart + source * l.maskRowBytes, l.maskRowBytes);
-        for (std::size_t x = 0; x < width; ++x) {
+        for (std::size_t x = 0; x < outWidth; ++x) {
+            const std::size_t sx = x * width / outWidth;
             bool transparent;
             if (alphaDecides)
-                transparent = alphas[x] < alphaHalf;
+                transparent = alphas[sx] < alphaHalf;
             else
-                transparent = x / 8 < maskRow.size() && ((maskRow[x / 8] >> (7 - x % 8)) & 1u);
+                transparent = sx / 8 < maskRow.size() && ((maskRow[sx / 8] >> (7 - sx % 8)) & 1u);
             if (!transparent) {
-                out.image.set(static_cast<int>(x), static_cast<int>(y), colours[x]);
+                out.image.set(static_cast<int>(x), static_cast<int>(y), colours[sx]);
                 out.mask.set(static_cast<int>(x), static_cast<int>(y), kBlack);
             }
         }

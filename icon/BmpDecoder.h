@@ -43,7 +43,10 @@ std::optional<DibLayout> readDibLayout(std::span<const std::uint8_t> dib, int fa
 // mask. For a 32-bit image whose alpha bytes are not all zero, alpha decides (below 128 is
 // transparent) and the AND mask is ignored; otherwise the AND mask decides, and mask bytes missing
 // at the end of the data count as opaque. Transparent pixels come out black under a white mask.
+// With an output size, the image comes out at that size, its pixels dropped or repeated (the
+// same as resample(), without decoding what would be dropped).
 std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int fallbackWidth,
-                                        int fallbackHeight);
+                                        int fallbackHeight, int outputWidth = 0,
+                                        int outputHeight = 0);
 
 } // namespace icon

@@ -22,6 +22,7 @@ constexpr std::size_t kEntryBytes = 16;
 constexpr int kTypeIcon = 1;
 constexpr int kTypeCursor = 2;
 constexpr int kMaxIconSide = kMaxPngSide;
+constexpr std::size_t kMaxDecodeAttempts = 4;
 
 // The bytes of an image: from its offset to the end of the file. The directory's byte count is
 // often wrong (too small, or huge), so each image's own header says how much it needs.
@@ -88,12 +89,13 @@ std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes
     return directory;
 }
 
-std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes,
-                                      const IcoImageInfo& info) {
+std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes, const IcoImageInfo& info,
+                                      int outputWidth, int outputHeight) {
     const std::span<const std::uint8_t> data = imageBytes(bytes, info.offset);
     if (isPng(data))
-        return decodePngImage(data);
-    return decodeIconDib(data, info.directoryWidth, info.directoryHeight);
+        return decodePngImage(data, outputWidth, outputHeight);
+    return decodeIconDib(data, info.directoryWidth, info.directoryHeight, outputWidth,
+                         outputHeight);
 }
 
 std::vector<int> rankImages(const IcoDirectory& directory, int size) {
@@ -118,19 +120,34 @@ int chooseImage(const IcoDirectory& directory, int size) {
     return ranked.empty() ? -1 : ranked.front();
 }
 
-std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int size) {
+std::optional<ChosenImage> decodeChosenImage(std::span<const std::uint8_t> bytes,
+                                             const IcoDirectory& directory, int size) {
     if (size < 1 || size > kMaxIconSide)
         return std::nullopt;
+    // A file may point many entries at one broken image: each image is tried once, and only
+    // the first few candidates, so that no file can make the reader spin.
+    std::vector<std::uint32_t> tried;
+    for (int index : rankImages(directory, size)) {
+        const IcoImageInfo& info = directory.images[static_cast<std::size_t>(index)];
+        if (std::find(tried.begin(), tried.end(), info.offset) != tried.end())
+            continue;
+        if (tried.size() == kMaxDecodeAttempts)
+            break;
+        tried.push_back(info.offset);
+        if (std::optional<IconBitmap> image = decodeImage(bytes, info, size, size))
+            return ChosenImage{index, std::move(*image)};
+    }
+    return std::nullopt;
+}
+
+std::optional<IconBitmap> decodeIcon(std::span<const std::uint8_t> bytes, int size) {
     const std::optional<IcoDirectory> directory = readIcoDirectory(bytes);
     if (!directory)
         return std::nullopt;
-    for (int index : rankImages(*directory, size)) {
-        const std::optional<IconBitmap> image =
-            decodeImage(bytes, directory->images[static_cast<std::size_t>(index)]);
-        if (image)
-            return resample(*image, size, size);
-    }
-    return std::nullopt;
+    std::optional<ChosenImage> chosen = decodeChosenImage(bytes, *directory, size);
+    if (!chosen)
+        return std::nullopt;
+    return std::move(chosen->bitmap);
 }
 
 std::optional<IconPlanes> decodeIconPlanes(std::span<const std::uint8_t> bytes) {

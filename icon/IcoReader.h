@@ -45,9 +45,10 @@ struct IcoDirectory {
 // Nothing when the bytes are not an ICO or CUR file (or hold no image at all).
 std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes);
 
-// Decodes one image of the file at its own size. Nothing when its data is unusable.
-std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes,
-                                      const IcoImageInfo& info);
+// Decodes one image of the file at its own size, or brought to outputWidth×outputHeight by
+// dropping or repeating pixels. Nothing when its data is unusable.
+std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes, const IcoImageInfo& info,
+                                      int outputWidth = 0, int outputHeight = 0);
 
 // Which image the editor takes for a side of `size` pixels: an image of exactly size×size with the
 // deepest colour format; with none, the image nearest in size (the smallest sum of the width and
@@ -57,6 +58,15 @@ int chooseImage(const IcoDirectory& directory, int size);
 // Every usable image, the one chooseImage gives first, then the others in the same order of
 // preference (what decodeIcon falls back on when an image turns out undecodable).
 std::vector<int> rankImages(const IcoDirectory& directory, int size);
+
+// The image taken for `size`, decoded and brought to size×size: the first in the order of
+// rankImages that decodes (only the first few distinct images are tried). Nothing when none does.
+struct ChosenImage {
+    int index = -1;
+    IconBitmap bitmap;
+};
+std::optional<ChosenImage> decodeChosenImage(std::span<const std::uint8_t> bytes,
+                                             const IcoDirectory& directory, int size);
 
 // The first icon of an ICO or CUR file, chosen for `size` and brought to size×size by dropping or
 // repeating pixels. Nothing when the file cannot be decoded.

@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <array>
+#include <vector>
 
 namespace icon {
 
@@ -34,6 +35,37 @@ int channelsOf(int colourType) {
     default:
         return 0;
     }
+}
+
+bool chunkIs(std::span<const std::uint8_t> type, const char* name) {
+    for (std::size_t i = 0; i < 4; ++i)
+        if (type[i] != static_cast<std::uint8_t>(name[i]))
+            return false;
+    return true;
+}
+
+// The PNG rebuilt from the chunks that make its pixels (IHDR, PLTE, tRNS, IDAT, IEND), each
+// checked to lie whole inside the bytes. Text, colour profiles and private chunks are left out:
+// Qt's reader would only read them, and a damaged length there makes libpng reserve memory for
+// data that is not in the file. Nothing when a chunk runs past the end or IEND is missing.
+std::optional<std::vector<std::uint8_t>> essentialChunks(std::span<const std::uint8_t> bytes) {
+    const ByteReader reader(bytes);
+    std::vector<std::uint8_t> out(kSignature.begin(), kSignature.end());
+    std::size_t at = kSignature.size();
+    while (reader.contains(at, 12)) {
+        const std::size_t length = bigEndian32(reader, at);
+        if (!reader.contains(at + 12, length))
+            return std::nullopt;
+        const std::span<const std::uint8_t> type = reader.slice(at + 4, 4);
+        const std::span<const std::uint8_t> chunk = reader.slice(at, 12 + length);
+        if (chunkIs(type, "IHDR") || chunkIs(type, "PLTE") || chunkIs(type, "tRNS") ||
+            chunkIs(type, "IDAT") || chunkIs(type, "IEND"))
+            out.insert(out.end(), chunk.begin(), chunk.end());
+        if (chunkIs(type, "IEND"))
+            return out;
+        at += 12 + length;
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -65,24 +97,39 @@ std::optional<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes) {
     return PngHeader{static_cast<int>(width), static_cast<int>(height), depth * channels};
 }
 
-std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes) {
+std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, int outputWidth,
+                                         int outputHeight) {
     const std::optional<PngHeader> header = readPngHeader(bytes);
-    if (!header)
+    if (!header || outputWidth > kMaxPngSide || outputHeight > kMaxPngSide)
         return std::nullopt;
-    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                                    static_cast<qsizetype>(bytes.size()));
+    const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
+    if (!png)
+        return std::nullopt;
+    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(png->data()),
+                                                    static_cast<qsizetype>(png->size()));
     QImage image;
     if (!image.loadFromData(data, "PNG") || image.width() != header->width ||
         image.height() != header->height)
         return std::nullopt;
-    image = image.convertToFormat(QImage::Format_ARGB32);
+    const int width = outputWidth > 0 ? outputWidth : image.width();
+    const int height = outputHeight > 0 ? outputHeight : image.height();
+    // Straight 32-bit pixels are read in place; other formats (palette, grey, 16 bits) are
+    // converted whole when every pixel is kept, read one by one when most are dropped.
+    const bool direct =
+        image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32;
+    if (!direct && width * height >= image.width() * image.height() / 4)
+        image = image.convertToFormat(QImage::Format_ARGB32);
+    const bool converted =
+        image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32;
 
-    IconBitmap out{Frame(image.width(), image.height(), kBlack),
-                   Frame(image.width(), image.height(), kWhite)};
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb p = line[x];
+    IconBitmap out{Frame(width, height, kBlack), Frame(width, height, kWhite)};
+    for (int y = 0; y < height; ++y) {
+        const int sy = static_cast<int>(static_cast<long long>(y) * image.height() / height);
+        const auto* line =
+            converted ? reinterpret_cast<const QRgb*>(image.constScanLine(sy)) : nullptr;
+        for (int x = 0; x < width; ++x) {
+            const int sx = static_cast<int>(static_cast<long long>(x) * image.width() / width);
+            const QRgb p = converted ? line[sx] : image.pixel(sx, sy);
             if (qAlpha(p) >= 128) {
                 out.image.set(x, y, rgb(qRed(p), qGreen(p), qBlue(p)));
                 out.mask.set(x, y, kBlack);

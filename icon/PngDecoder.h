@@ -23,6 +23,8 @@ std::optional<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes);
 
 // Decodes a PNG image of an icon with Qt's PNG reader: alpha below 128 is transparent (black
 // under a white mask), other pixels keep their own colour. Nothing when it cannot be decoded.
-std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes);
+// With an output size, pixels are dropped or repeated to that size, as resample() does.
+std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, int outputWidth = 0,
+                                         int outputHeight = 0);
 
 } // namespace icon

@@ -24,7 +24,9 @@ std::uint16_t le16(const std::vector<std::uint8_t>& b, std::size_t at) {
 // ALSA reports a missing card on standard error; a program without sound has nothing to report.
 void quiet(const char*, int, const char*, int, const char*, ...) {}
 
-void play(const AlsaSound::Wave& wave, std::atomic<bool>& playing) {
+void play(std::shared_ptr<const AlsaSound::Wave> click,
+          std::shared_ptr<std::atomic<bool>> playing) {
+    const AlsaSound::Wave& wave = *click;
     snd_lib_error_set_handler(quiet);
     snd_pcm_t* pcm = nullptr;
     if (snd_pcm_open(&pcm, "default", SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) == 0) {
@@ -42,7 +44,7 @@ void play(const AlsaSound::Wave& wave, std::atomic<bool>& playing) {
         }
         snd_pcm_close(pcm);
     }
-    playing = false;
+    *playing = false;
 }
 
 } // namespace
@@ -83,12 +85,13 @@ void AlsaSound::playClick() {
         m_loaded = true;
         const QString path = shell::DataFiles::find(QStringLiteral("clic.wav"));
         const auto bytes = path.isEmpty() ? std::nullopt : icon::readFileBytes(path, 4u << 20);
-        if (!bytes || !parseWave(*bytes, m_click))
-            m_click = {};
+        auto wave = std::make_shared<Wave>();
+        if (bytes && parseWave(*bytes, *wave))
+            m_click = std::move(wave);
     }
-    if (m_click.samples.empty() || m_playing.exchange(true))
+    if (!m_click || m_playing->exchange(true))
         return;
-    std::thread(play, std::cref(m_click), std::ref(m_playing)).detach();
+    std::thread(play, m_click, m_playing).detach();
 }
 
 } // namespace platform

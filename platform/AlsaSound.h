@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace platform {
@@ -25,8 +26,9 @@ public:
 
 private:
     bool m_loaded = false;
-    Wave m_click;
-    std::atomic<bool> m_playing{false};
+    // Shared with the playing thread, which may outlive this object when the program ends.
+    std::shared_ptr<const Wave> m_click;
+    std::shared_ptr<std::atomic<bool>> m_playing = std::make_shared<std::atomic<bool>>(false);
 };
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #include "platform/DisplayMode.h"
 
+#include "platform/Services.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -16,7 +18,21 @@ int screenDepth() {
 }
 
 bool switchScreenDepth(int bitsPerPixel) {
-    return screenDepth() >= bitsPerPixel;
+    return screenDepth() == bitsPerPixel;
+}
+
+void changeDisplayDepth(int bitsPerPixel) {
+    if (switchScreenDepth(bitsPerPixel)) {
+        sound().playClick();
+        return;
+    }
+    Message message;
+    message.title = QStringLiteral("Erreur");
+    message.text =
+        QStringLiteral("Ce mode d'affichage n'est pas supporté. Veuillez vous reporter à "
+                       "la documentation de votre carte graphique...");
+    message.icon = MessageIcon::Critical;
+    dialogs().message(message);
 }
 
 } // namespace platform

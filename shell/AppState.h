@@ -11,6 +11,10 @@ namespace shell {
 struct AppState {
     Preferences preferences;
     QString iconToEdit;
+    // The program's own icon library, the picker's first file, and the help the program opens.
+    QString iconLibraryPath;
+    QString iconLibraryName = QStringLiteral("Orvanne®.icl");
+    QString helpFile;
 };
 
 AppState& appState();

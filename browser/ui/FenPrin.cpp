@@ -5,24 +5,20 @@
 #include "browser/FolderTree.h"
 #include "browser/ui/CentrePicture.h"
 #include "browser/ui/IconGridView.h"
-#include "browser/ui/MovePictures.h"
 #include "browser/ui/PopUpInfos.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
-#include "platform/HelpBubbles.h"
 #include "platform/Services.h"
-#include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
+#include "shell/DataFiles.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QListWidget>
-#include <QPainter>
 #include <QStyle>
-#include <QStyledItemDelegate>
 
 namespace browser::ui {
 
@@ -48,6 +44,11 @@ FenPrin::FenPrin(const ThumbnailProvider& provider, QWidget* parent)
 
     // What the main window reads while it loads: colours, grid view, help bubbles.
     preferences() = shell::Preferences::load(shell::Settings());
+    shell::AppState& state = shell::appState();
+    const QString library = shell::DataFiles::find(state.iconLibraryName);
+    state.iconLibraryPath =
+        library.isEmpty() ? shell::DataFiles::expected(state.iconLibraryName) : library;
+    state.helpFile = shell::DataFiles::find(QStringLiteral("help/index.html"));
     m_grid.setView(preferences().icons48 ? GridView::Icons48 : GridView::Icons32);
 
     buildTitleRow();

@@ -3,7 +3,6 @@
 
 #include "browser/ui/FenPrinLayout.h"
 
-#include "browser/FolderTree.h"
 #include "browser/ui/CentrePicture.h"
 #include "browser/ui/IconGridView.h"
 #include "browser/ui/MovePictures.h"
@@ -17,9 +16,6 @@
 #include "shell/AppState.h"
 
 #include <QComboBox>
-#include <QDir>
-#include <QEvent>
-#include <QFileInfo>
 #include <QListWidget>
 #include <QPainter>
 #include <QStyle>

@@ -1,5 +1,6 @@
 #include "browser/ui/PopUpInfos.h"
 
+#include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
 #include "platform/Services.h"
@@ -69,6 +70,13 @@ PopUpInfos::PopUpInfos(QWidget* parent)
     auto* tips = addButton("CmdConseilDem", QString(), row++);
     platform::setHelpText(*tips, QStringLiteral("Afficher ou non les conseils au démarrage"));
     connect(tips, &QAbstractButton::clicked, this, &PopUpInfos::toggleTips);
+
+    auto* depth = addButton("cmd65536", QStringLiteral("Affichage en 65536 couleurs"), row++);
+    platform::setHelpText(*depth, QStringLiteral("Passer l'affichage en 65536 couleurs"));
+    connect(depth, &QAbstractButton::clicked, this, [this] {
+        hide();
+        platform::changeDisplayDepth(16);
+    });
 
     auto* remove = addButton("CmdSupprCle", QStringLiteral("Supprimer les réglages..."), row++);
     platform::setHelpText(

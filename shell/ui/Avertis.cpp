@@ -81,16 +81,7 @@ void Avertis::checkBoxClicked(bool ticked) {
 }
 
 void Avertis::switchDisplay() {
-    if (platform::switchScreenDepth(kTargetDepth)) {
-        platform::sound().playClick();
-    } else {
-        platform::Message message;
-        message.title = QStringLiteral("Erreur");
-        message.text = QStringLiteral("Ce mode d'affichage n'est pas supporté. Veuillez vous "
-                                      "reporter à la documentation de votre carte graphique...");
-        message.icon = platform::MessageIcon::Critical;
-        platform::dialogs().message(message);
-    }
+    platform::changeDisplayDepth(kTargetDepth);
     accept();
 }
 

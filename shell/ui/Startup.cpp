@@ -13,9 +13,11 @@
 
 namespace shell::ui {
 
-Startup::Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds)
+Startup::Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds,
+                 const QString& commandLine)
     : m_provider(provider)
-    , m_splashMilliseconds(splashMilliseconds) {
+    , m_splashMilliseconds(splashMilliseconds)
+    , m_commandLine(commandLine) {
     connect(&m_splash, &Demarre2::timeUp, this, &Startup::showMainWindow);
 }
 
@@ -34,8 +36,10 @@ void Startup::showMainWindow() {
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         m_main->move(screen->availableGeometry().center() - m_main->rect().center());
     m_main->openFolder(QDir::currentPath());
+    m_editor.attach(*m_main);
     m_main->show();
     m_splash.close();
+    m_editor.openAtStart(m_commandLine);
     report();
     emit mainWindowShown();
     // The tips come last, over the main window once it is painted.
@@ -56,7 +60,8 @@ void Startup::showAbout() {
 }
 
 // For scripts that start the program and check what it shows: with ORVANNE_REPORT_FILE set, the
-// main window's two texts are written to that file once it is on screen.
+// main window's two texts are written to that file once it is on screen, and the editor's
+// caption when it came up at start.
 void Startup::report() const {
     const QString path = qEnvironmentVariable("ORVANNE_REPORT_FILE");
     if (path.isEmpty() || !m_main)
@@ -64,8 +69,10 @@ void Startup::report() const {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return;
-    file.write(
-        ("NbrIco: " + m_main->countText() + "\nEtiquette1: " + m_main->pathText() + "\n").toUtf8());
+    QString text = "NbrIco: " + m_main->countText() + "\nEtiquette1: " + m_main->pathText() + "\n";
+    if (m_editor.hasEditor())
+        text += "FrmIcoEd: " + m_editor.caption() + "\n";
+    file.write(text.toUtf8());
 }
 
 } // namespace shell::ui

@@ -3,6 +3,7 @@
 #include "browser/ThumbnailProvider.h"
 #include "browser/ui/FenPrin.h"
 #include "shell/ui/Demarre2.h"
+#include "shell/ui/EditorHost.h"
 
 #include <QObject>
 
@@ -15,7 +16,10 @@ namespace shell::ui {
 class Startup : public QObject {
     Q_OBJECT
 public:
-    explicit Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds = 700);
+    // The command line is the program's arguments joined by spaces; "/open <path>" opens that
+    // icon in the editor once the main window is up.
+    explicit Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds = 700,
+                     const QString& commandLine = {});
     ~Startup() override;
 
     // False when another instance runs and the user chose not to start a new one.
@@ -23,6 +27,7 @@ public:
 
     Demarre2& splash() { return m_splash; }
     browser::ui::FenPrin* mainWindow() { return m_main.get(); }
+    EditorHost& editorHost() { return m_editor; }
 
 signals:
     void mainWindowShown();
@@ -35,8 +40,10 @@ private:
 
     const browser::ThumbnailProvider& m_provider;
     int m_splashMilliseconds;
+    QString m_commandLine;
     Demarre2 m_splash;
     std::unique_ptr<browser::ui::FenPrin> m_main;
+    EditorHost m_editor;
 };
 
 } // namespace shell::ui

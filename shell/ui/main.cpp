@@ -20,7 +20,9 @@ int main(int argc, char** argv) {
 
     const platform::SingleInstance instance;
     const browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider);
+    // The arguments after the program's name, joined by spaces, are its command line.
+    const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));
+    shell::ui::Startup startup(provider, 700, commandLine);
     if (!startup.begin(instance.anotherIsRunning()))
         return 0;
     return QApplication::exec();

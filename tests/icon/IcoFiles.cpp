@@ -99,8 +99,8 @@ std::vector<std::uint8_t> icoFile(const std::vector<Entry>& entries, int type) {
     return out;
 }
 
-std::vector<std::uint8_t> icoFile(const DibSpec& spec) {
-    return icoFile({Entry{spec.width, spec.height, spec.bits, dib(spec)}});
+std::vector<std::uint8_t> icoFile(const DibSpec& bitmap) {
+    return icoFile({Entry{bitmap.width, bitmap.height, bitmap.bits, dib(bitmap)}});
 }
 
 std::vector<std::uint8_t> png(int width, int height,

@@ -86,6 +86,12 @@ TEST(IcoTestData, EveryValidIconDecodesAtBothBrowserSizes) {
                 EXPECT_EQ(image->width(), info.width);
                 EXPECT_EQ(image->height(), info.height);
             }
+        // Sampling while decoding gives what stretching the whole image gives.
+        const int chosen = chooseImage(*directory, 48);
+        const std::optional<IconBitmap> whole =
+            decodeImage(bytes, directory->images[static_cast<std::size_t>(chosen)]);
+        ASSERT_TRUE(whole.has_value());
+        EXPECT_EQ(resample(*whole, 48, 48), *big);
         EXPECT_TRUE(isLoadablePicture(path));
     }
 }

@@ -18,6 +18,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -152,6 +153,30 @@ TEST(AlsaSound, TheClickIsAShortWaveAndBrokenFilesAreRefused) {
     EXPECT_FALSE(platform::AlsaSound::parseWave(eightBit, w));
 }
 
+TEST(AlsaSound, TheClickReachesTheSoundDevice) {
+    // The user's ALSA configuration (in the test's private home) sends the sound to a file.
+    const QString home = QDir::homePath();
+    const QString output = home + QStringLiteral("/clic.raw");
+    QFile config(home + QStringLiteral("/.asoundrc"));
+    ASSERT_TRUE(config.open(QIODevice::WriteOnly));
+    config.write("pcm.!default { type file; slave.pcm \"null\"; file \"" + output.toUtf8() +
+                 "\"; format \"raw\" }\n");
+    config.close();
+    const auto bytes = icon::readFileBytes(shell::DataFiles::find(QStringLiteral("clic.wav")));
+    ASSERT_TRUE(bytes);
+    platform::AlsaSound::Wave wave;
+    ASSERT_TRUE(platform::AlsaSound::parseWave(*bytes, wave));
+    const qint64 expected = static_cast<qint64>(wave.samples.size() * 2);
+
+    platform::AlsaSound sound;
+    sound.playClick();
+    QFile played(output);
+    for (int i = 0; i < 250 && played.size() < expected; ++i)
+        QThread::msleep(20);
+    EXPECT_EQ(played.size(), expected) << "every sample of the click, 16 bits each";
+    QFile::remove(config.fileName());
+}
+
 TEST(AlsaSound, PlayingWithoutASoundDeviceReturnsAndDoesNothing) {
     platform::AlsaSound sound;
     for (int i = 0; i < 3; ++i)
@@ -162,7 +187,9 @@ TEST(AlsaSound, PlayingWithoutASoundDeviceReturnsAndDoesNothing) {
 TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
     QTemporaryDir data;
     qputenv("ORVANNE_DATA_DIR", data.path().toUtf8());
-    const bool installedHelp = !platform::HelpViewer::helpFolder().isEmpty();
+    struct Unset {
+        ~Unset() { qunsetenv("ORVANNE_DATA_DIR"); }
+    } unset;
     QDir(data.path()).mkpath(QStringLiteral("help"));
     QFile page(data.filePath(QStringLiteral("help/index.html")));
     ASSERT_TRUE(page.open(QIODevice::WriteOnly));
@@ -178,8 +205,9 @@ TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
     EXPECT_TRUE(viewer->toPlainText().contains(QStringLiteral("Le visualiseur.")));
     viewer->close();
     qunsetenv("ORVANNE_DATA_DIR");
-    if (!installedHelp)
+    if (platform::HelpViewer::helpFolder().isEmpty()) {
         EXPECT_FALSE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
+    }
 }
 
 } // namespace

@@ -70,4 +70,11 @@ protected:
     std::unique_ptr<browser::ui::FenPrin> m_window;
 };
 
+// The same over the program's own icon reader, for windows that show real icons.
+class RealIconsFenPrin : public FenPrinFixture {
+protected:
+    const browser::ThumbnailProvider& provider() override { return m_real; }
+    browser::IcoThumbnailProvider m_real;
+};
+
 } // namespace browsertest

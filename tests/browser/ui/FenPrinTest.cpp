@@ -11,6 +11,7 @@
 namespace {
 
 using browsertest::FenPrinFixture;
+using browsertest::RealIconsFenPrin;
 using platform::Asked;
 
 TEST_F(FenPrinFixture, TheWindowHasItsSizeAndShowsTheFolderCountAndPath) {
@@ -25,6 +26,17 @@ TEST_F(FenPrinFixture, TheWindowHasItsSizeAndShowsTheFolderCountAndPath) {
     auto* drives = m_window->findChild<QComboBox*>(QStringLiteral("Lecteur"));
     EXPECT_GT(drives->count(), 0);
     EXPECT_TRUE(button("DeplaceHaut")->isEnabled());
+}
+
+TEST_F(FenPrinFixture, ChoosingADriveOpensItsRoot) {
+    m_window->openFolder(iconFolder(4));
+    auto* drives = m_window->findChild<QComboBox*>(QStringLiteral("Lecteur"));
+    ASSERT_EQ(drives->itemData(0).toString(), QStringLiteral("/"));
+    emit drives->activated(0);
+    EXPECT_EQ(m_window->grid().folder(), QStringLiteral("/"));
+    auto* list = m_window->findChild<QListWidget*>(QStringLiteral("Repertoire"));
+    EXPECT_EQ(list->currentItem()->text(), QStringLiteral("/"));
+    EXPECT_TRUE(m_dialogs.asked().empty());
 }
 
 TEST_F(FenPrinFixture, AnEmptyFolderDisablesTheFileCommandsAndTheMoves) {
@@ -197,12 +209,6 @@ TEST_F(FenPrinFixture, ADoubleClickOnTheCentreReadsItsFileAgain) {
     ASSERT_EQ(m_dialogs.asked().size(), 1u);
     EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Fichier non trouvé"));
 }
-
-class RealIconsFenPrin : public FenPrinFixture {
-protected:
-    const browser::ThumbnailProvider& provider() override { return m_real; }
-    browser::IcoThumbnailProvider m_real;
-};
 
 TEST_F(RealIconsFenPrin, ShowsRealIconsAt32And48) {
     const QString folder = realIconFolder();

@@ -126,6 +126,18 @@ TEST_F(PopUpInfosTest, RemovingTheSettingsAsksFirstWithNoAsTheDefault) {
     EXPECT_FALSE(prefs().helpBubbles) << "the values in memory stay as they were";
 }
 
+TEST_F(PopUpInfosTest, The65536ColourModeCannotBeHadOnATrueColourScreen) {
+    openPanel();
+    click("cmd65536");
+    EXPECT_FALSE(control("PopUpInfos")->isVisible());
+    ASSERT_EQ(m_dialogs.asked().size(), 1u);
+    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Erreur"));
+    EXPECT_EQ(m_dialogs.last().text,
+              QStringLiteral("Ce mode d'affichage n'est pas supporté. Veuillez vous reporter à la "
+                             "documentation de votre carte graphique..."));
+    EXPECT_EQ(m_sound.clicks, 0);
+}
+
 TEST_F(PopUpInfosTest, AboutIsAskedForFromThePanel) {
     QSignalSpy about(m_window.get(), &browser::ui::FenPrin::aboutRequested);
     openPanel();
@@ -133,9 +145,11 @@ TEST_F(PopUpInfosTest, AboutIsAskedForFromThePanel) {
     EXPECT_EQ(about.count(), 1);
 }
 
-TEST_F(PopUpInfosTest, Screenshot) {
+using browsertest::RealIconsFenPrin;
+
+TEST_F(RealIconsFenPrin, PopUpInfosScreenshot) {
     m_window->openFolder(realIconFolder());
-    openPanel();
+    click("CmdApropos");
     testsupport::saveScreenshot(*m_window, QStringLiteral("PopUpInfos"));
 }
 

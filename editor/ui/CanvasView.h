@@ -1,0 +1,46 @@
+#pragma once
+
+#include "editor/IconEditor.h"
+
+#include <QImage>
+#include <QWidget>
+
+namespace editor::ui {
+
+// The canvas `PicMain`: the icon ten times enlarged, 320×320 screen pixels. It paints what the
+// engine holds (the planes with a floating selection over them, the figure being dragged, the
+// dotted frame) and hands every mouse event to the engine.
+class CanvasView : public QWidget {
+    Q_OBJECT
+public:
+    // A transparent cell is a small chequer of two light greys, so that it never passes for
+    // a white pixel; a colour left under a transparent pixel is drawn over it by XOR.
+    static constexpr icon::Colour kChequerLight = 0xEEEEEE;
+    static constexpr icon::Colour kChequerDark = 0xCCCCCC;
+
+    explicit CanvasView(IconEditor& engine, QWidget* parent = nullptr);
+
+    // Renders the planes again and repaints.
+    void refresh();
+    const QImage& picture() const { return m_picture; }
+
+signals:
+    // What an engine call answered, for the window to act on (it repaints the canvas too).
+    void engineEvents(editor::Events events);
+    void pressed();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void render();
+    void updatePointer(double x, double y);
+
+    IconEditor& m_engine;
+    QImage m_picture;
+};
+
+} // namespace editor::ui

@@ -1,0 +1,41 @@
+// The ICO and CUR reader on any bytes: it must never crash, hang or allocate without bound,
+// and what it decodes must survive a save and a read back unchanged.
+#include "icon/IcoReader.h"
+#include "icon/IcoWriter.h"
+
+#include <QtGlobal>
+
+#include <cstdlib>
+#include <span>
+
+namespace {
+
+void quiet(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    // Qt's PNG reader complains about every broken image; the fuzzer does not need to hear it.
+    qInstallMessageHandler(quiet);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::span<const std::uint8_t> bytes(data, size);
+    (void)icon::readHeaderCount(bytes);
+    if (const std::optional<icon::IcoDirectory> directory = icon::readIcoDirectory(bytes)) {
+        (void)icon::chooseImage(*directory, 48);
+        // A few images at their own size: the limits hold whatever the headers say.
+        for (std::size_t i = 0; i < directory->images.size() && i < 3; ++i)
+            if (const auto image = icon::decodeImage(bytes, directory->images[i]))
+                if (image->width() > icon::kMaxPngSide || image->height() > icon::kMaxPngSide ||
+                    image->mask.width() != image->width())
+                    std::abort();
+    }
+    if (const std::optional<icon::IconPlanes> planes = icon::decodeIconPlanes(bytes)) {
+        const icon::IconFileBytes written = icon::encodeIconFile(*planes);
+        if (icon::decodeIconPlanes(written) != planes)
+            std::abort();
+    }
+    return 0;
+}

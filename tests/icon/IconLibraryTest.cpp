@@ -1,0 +1,89 @@
+#include "resources/icons/IconLibrary.h"
+#include "icon/ByteReader.h"
+#include "icon/IcoAssembly.h"
+#include "icon/IconSource.h"
+#include "icon/NeReader.h"
+#include "tests/support/TestData.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace icon;
+
+namespace {
+
+std::vector<std::uint8_t> builtLibrary() {
+    return testsupport::fileBytes(QString::fromUtf8(ORVANNE_ICON_LIBRARY));
+}
+
+} // namespace
+
+TEST(IconLibrary, EveryIconReadsBackAsItsSource) {
+    const std::vector<std::uint8_t> library = builtLibrary();
+    const auto icons = readNeIcons(library);
+    ASSERT_TRUE(icons.has_value());
+    const std::vector<iconlib::IconArt> art = iconlib::libraryArt();
+    ASSERT_EQ(icons->size(), art.size());
+    for (std::size_t i = 0; i < art.size(); ++i) {
+        SCOPED_TRACE(art[i].name);
+        EXPECT_EQ((*icons)[i].name, QString::fromLatin1(art[i].name));
+        EXPECT_EQ(assembleIco(library, (*icons)[i]), iconlib::iconFile(art[i]));
+    }
+}
+
+TEST(IconLibrary, HoldsManyIconsEachAt32AndMostAtThreeSizes) {
+    const std::vector<iconlib::IconArt> art = iconlib::libraryArt();
+    EXPECT_GE(art.size(), 40u);
+    std::set<std::string> names;
+    std::size_t threeSizes = 0;
+    for (const iconlib::IconArt& a : art) {
+        EXPECT_TRUE(names.insert(a.name).second) << "two icons named " << a.name;
+        EXPECT_NE(std::find(a.sizes.begin(), a.sizes.end(), 32), a.sizes.end()) << a.name;
+        threeSizes += a.sizes == std::vector<int>{16, 32, 48};
+    }
+    EXPECT_GT(2 * threeSizes, art.size());
+}
+
+TEST(IconLibrary, IconsAreDrawnNotEmpty) {
+    // A sheet of every icon, to look at.
+    EXPECT_TRUE(iconlib::contactSheet().toImage().save(
+        QDir(testsupport::screenshotFolder()).filePath("icon_library.png")));
+
+    // Each 32×32 image has both opaque and transparent pixels and more than a couple of colours,
+    // and no two icons look the same.
+    std::set<std::vector<Colour>> seen;
+    for (const iconlib::IconArt& a : iconlib::libraryArt()) {
+        SCOPED_TRACE(a.name);
+        const IconBitmap b = iconlib::paint(a, 32);
+        std::set<Colour> colours;
+        std::vector<Colour> look;
+        int opaque = 0;
+        for (int y = 0; y < 32; ++y)
+            for (int x = 0; x < 32; ++x) {
+                const bool clear = isTransparentMask(b.mask.at(x, y));
+                opaque += !clear;
+                if (!clear)
+                    colours.insert(b.image.at(x, y));
+                look.push_back(clear ? kWhite + 1 : b.image.at(x, y));
+            }
+        EXPECT_GT(opaque, 100);
+        EXPECT_LT(opaque, 1024);
+        EXPECT_GE(colours.size(), 4u);
+        EXPECT_TRUE(seen.insert(look).second);
+    }
+}
+
+TEST(IconLibrary, PickerShowsEachIconAsPainted) {
+    const std::optional<IconSource> source =
+        IconSource::open(QString::fromUtf8(ORVANNE_ICON_LIBRARY));
+    ASSERT_TRUE(source.has_value());
+    EXPECT_EQ(source->kind(), IconSource::Kind::Ne);
+    const std::vector<iconlib::IconArt> art = iconlib::libraryArt();
+    ASSERT_EQ(source->count(), static_cast<int>(art.size()));
+    for (std::size_t i = 0; i < art.size(); ++i)
+        EXPECT_TRUE(source->planes(static_cast<int>(i) + 1) == toPlanes(iconlib::paint(art[i], 32)))
+            << art[i].name;
+}

@@ -1,0 +1,128 @@
+#include "shell/ui/EditorHost.h"
+#include "browser/ThumbnailProvider.h"
+#include "browser/ui/FenPrin.h"
+#include "editor/ui/FrmIcoEd.h"
+#include "platform/GradientButton.h"
+#include "platform/Recorders.h"
+#include "platform/ScriptedDialogs.h"
+#include "platform/Services.h"
+#include "shell/Settings.h"
+#include "tests/support/Screenshot.h"
+#include "tests/support/TestData.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::Asked;
+
+class EditorHostTest : public ::testing::Test {
+protected:
+    void SetUp() override { shell::Settings().deleteAll(); }
+    void TearDown() override { shell::Settings().deleteAll(); }
+
+    // A folder of one real icon, shown in a main window.
+    QString showFolder(const QString& name) {
+        const QString path = QDir(m_dir.path()).filePath(name);
+        QFile::copy(testsupport::testData(QStringLiteral("ico/valid/moz_ico-size-32x32-24bpp.ico")),
+                    path);
+        m_main = std::make_unique<browser::ui::FenPrin>(m_provider);
+        m_main->openFolder(m_dir.path());
+        m_main->show();
+        return path;
+    }
+
+    QTemporaryDir m_dir;
+    browser::IcoThumbnailProvider m_provider;
+    platform::ScriptedDialogs m_dialogs;
+    platform::RecordingSound m_sound;
+    platform::RecordingLauncher m_launcher;
+    platform::ServicesOverride m_services{&m_dialogs, &m_sound, &m_launcher};
+    std::unique_ptr<browser::ui::FenPrin> m_main;
+};
+
+TEST_F(EditorHostTest, TheCentrePictureBringsTheEditorThatOpensItsIconFromTheFichierPad) {
+    const QString icon = showFolder(QStringLiteral("centre.ico"));
+    shell::ui::EditorHost host([] { return 24; });
+    host.attach(*m_main);
+    QTest::mousePress(m_main->findChild<QWidget*>(QStringLiteral("Picture24")), Qt::RightButton);
+    ASSERT_TRUE(host.hasEditor());
+    editor::ui::FrmIcoEd& editor = host.editor();
+    EXPECT_TRUE(editor.isVisible());
+    EXPECT_EQ(m_sound.clicks, 1);
+    EXPECT_EQ(editor.document().openFolder(), m_dir.path());
+    auto* fichier = editor.findChild<platform::GradientButton*>(QStringLiteral("CmdFichier"));
+    QTest::mousePress(fichier, Qt::RightButton);
+    EXPECT_TRUE(m_dialogs.asked().empty());
+    EXPECT_EQ(editor.document().iconPath(), icon);
+    EXPECT_EQ(editor.windowTitle(), QStringLiteral("Orvanne® - centre.ico"));
+    editor.close();
+}
+
+TEST_F(EditorHostTest, CmdEditerBringsTheEditorUpWithoutAPath) {
+    showFolder(QStringLiteral("une.ico"));
+    shell::ui::EditorHost host([] { return 32; });
+    host.attach(*m_main);
+    auto* edit = m_main->findChild<platform::GradientButton*>(QStringLiteral("CmdEditer"));
+    ASSERT_TRUE(edit->isEnabled());
+    QTest::mouseClick(edit, Qt::LeftButton);
+    ASSERT_TRUE(host.hasEditor());
+    EXPECT_TRUE(host.editor().isVisible());
+    EXPECT_FALSE(host.editor().document().hasOpenRequest());
+    EXPECT_EQ(host.editor().windowTitle(), QStringLiteral("Orvanne® - Sans nom"));
+    host.editor().close();
+}
+
+TEST_F(EditorHostTest, OpenOnTheCommandLineOpensTheEditorAtStart) {
+    const QString icon = showFolder(QStringLiteral("départ.ico"));
+    shell::ui::EditorHost host([] { return 24; });
+    host.attach(*m_main);
+    host.openAtStart(QStringLiteral("/images/rien.ico"));
+    EXPECT_FALSE(host.hasEditor());
+    host.openAtStart(QStringLiteral("/Open ") + icon);
+    ASSERT_TRUE(host.hasEditor());
+    EXPECT_EQ(host.editor().document().iconPath(), icon);
+    EXPECT_EQ(host.editor().windowTitle(), QStringLiteral("Orvanne® - Départ.Ico"));
+    host.editor().close();
+}
+
+TEST_F(EditorHostTest, AvertisComesAtTheEditorsLoadOnADisplayOfFewerColours) {
+    struct Case {
+        int depth;
+        const char* setting; // nullptr: never set
+        bool warns;
+    } cases[] = {{16, nullptr, true}, {24, nullptr, false}, {16, "Non", false}};
+    for (const Case& c : cases) {
+        shell::Settings().deleteAll();
+        if (c.setting != nullptr)
+            shell::Settings().save(shell::keys::kDepthWarning, QString::fromLatin1(c.setting));
+        m_dialogs.clear();
+        if (c.warns)
+            m_dialogs.onModal([](QDialog& dialog) {
+                testsupport::saveScreenshot(dialog, QStringLiteral("Avertis"));
+                dialog.findChild<QCheckBox*>(QStringLiteral("Coche1"))->click();
+                dialog.reject();
+            });
+        const int depth = c.depth;
+        shell::ui::EditorHost host([depth] { return depth; });
+        host.bringUp();
+        ASSERT_EQ(m_dialogs.asked().size(), c.warns ? 1u : 0u) << c.depth;
+        if (c.warns) {
+            EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::Modal);
+            EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Avertis"));
+            // "Ne plus poser la question" was ticked.
+            EXPECT_EQ(shell::Settings().read(shell::keys::kDepthWarning), QStringLiteral("Non"));
+        }
+        host.editor().close();
+    }
+}
+
+} // namespace
