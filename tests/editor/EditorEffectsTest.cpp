@@ -22,64 +22,39 @@ struct EffectCase {
     std::function<Events(IconEditor&)> run;
 };
 
+// Flips, turns and reflections by the index of their menu entry.
+EffectCase indexed(const char* name, Events (IconEditor::*effect)(int), int index) {
+    return {name, [=](IconEditor& e) {
+                return (e.*effect)(index);
+            }};
+}
+
 const std::vector<EffectCase> kBlockEffects = {
-    {"mirror left-right",
-     [](IconEditor& e) {
-         return e.flip(3);
-     }},
-    {"mirror top-bottom",
-     [](IconEditor& e) {
-         return e.flip(4);
-     }},
-    {"turn left",
-     [](IconEditor& e) {
-         return e.quarterTurn(5);
-     }},
-    {"turn right",
-     [](IconEditor& e) {
-         return e.quarterTurn(6);
-     }},
-    {"reflect left/right",
-     [](IconEditor& e) {
-         return e.halfReflect(0);
-     }},
-    {"reflect right/left",
-     [](IconEditor& e) {
-         return e.halfReflect(1);
-     }},
-    {"reflect top/bottom",
-     [](IconEditor& e) {
-         return e.halfReflect(2);
-     }},
-    {"reflect bottom/top",
-     [](IconEditor& e) {
-         return e.halfReflect(3);
-     }},
-    {"grey levels",
-     [](IconEditor& e) {
-         return e.greyLevels();
-     }},
-    {"negative",
-     [](IconEditor& e) {
-         return e.negative();
-     }},
+    indexed("mirror left-right", &IconEditor::flip, 3),
+    indexed("mirror top-bottom", &IconEditor::flip, 4),
+    indexed("turn left", &IconEditor::quarterTurn, 5),
+    indexed("turn right", &IconEditor::quarterTurn, 6),
+    indexed("reflect left/right", &IconEditor::halfReflect, 0),
+    indexed("reflect right/left", &IconEditor::halfReflect, 1),
+    indexed("reflect top/bottom", &IconEditor::halfReflect, 2),
+    indexed("reflect bottom/top", &IconEditor::halfReflect, 3),
+    {"grey levels", &IconEditor::greyLevels},
+    {"negative", &IconEditor::negative},
 };
 
+Events adjustColours(IconEditor& e) {
+    auto adjuster = e.beginColourAdjustment();
+    adjuster.change(effects::ColourAdjuster::Bar::Brightness, 5);
+    return e.applyColourAdjustment(adjuster);
+}
+
 const std::vector<EffectCase> kWholeIconEffects = {
-    {"button",
-     [](IconEditor& e) {
-         return e.buttonEffect();
-     }},
+    {"button", &IconEditor::buttonEffect},
     {"gradient",
      [](IconEditor& e) {
          return e.applyBackground(effects::Gradient::render(0, icon::kWhite, 45));
      }},
-    {"colour adjustment",
-     [](IconEditor& e) {
-         auto adjuster = e.beginColourAdjustment();
-         adjuster.change(effects::ColourAdjuster::Bar::Brightness, 5);
-         return e.applyColourAdjustment(adjuster);
-     }},
+    {"colour adjustment", adjustColours},
 };
 
 } // namespace
@@ -158,21 +133,18 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
 }
 
 TEST(EditorEffects, FourQuarterTurnsAndTwoNegativesGiveTheIconBack) {
-    for (int index : {5, 6}) {
+    const struct {
+        int times;
+        std::function<Events(IconEditor&)> run;
+    } cases[] = {{4, kBlockEffects[2].run}, {4, kBlockEffects[3].run}, {2, kBlockEffects[9].run}};
+    for (const auto& c : cases) {
         IconEditor e;
         e.loadIcon(patternedIcon());
-        for (int i = 0; i < 4; ++i)
-            e.quarterTurn(index);
+        for (int i = 0; i < c.times; ++i)
+            c.run(e);
         EXPECT_EQ(e.planes(), patternedIcon());
-        EXPECT_EQ(e.history().undoCount(), 5u);
+        EXPECT_EQ(e.history().undoCount(), 1u + c.times);
     }
-    IconEditor e;
-    e.loadIcon(patternedIcon());
-    e.quarterTurn(5);
-    e.quarterTurn(6);
-    e.negative();
-    e.negative();
-    EXPECT_EQ(e.planes(), patternedIcon());
 }
 
 TEST(EditorEffects, ReflectionsNeedEvenSidesOfTheSelection) {
