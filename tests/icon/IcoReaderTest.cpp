@@ -256,22 +256,11 @@ TEST(IcoReader, PngImagesDecodeWithAlphaAsTransparency) {
     // file makes the image unreadable, without libpng reserving memory for it.
     for (std::uint32_t length : {4u, 0x7FFFFFF0u}) {
         std::vector<std::uint8_t> withText = image;
-        const std::vector<std::uint8_t> chunk{static_cast<std::uint8_t>(length >> 24),
-                                              static_cast<std::uint8_t>(length >> 16),
-                                              static_cast<std::uint8_t>(length >> 8),
-                                              static_cast<std::uint8_t>(length),
-                                              't',
-                                              'E',
-                                              'X',
-                                              't',
-                                              'a',
-                                              'b',
-                                              'c',
-                                              'd',
-                                              0,
-                                              0,
-                                              0,
-                                              0};
+        std::vector<std::uint8_t> chunk;
+        for (int shift : {24, 16, 8, 0})
+            chunk.push_back(static_cast<std::uint8_t>(length >> shift));
+        for (char c : std::string("tEXtabcd\0\0\0\0", 12))
+            chunk.push_back(static_cast<std::uint8_t>(c));
         withText.insert(withText.begin() + 33, chunk.begin(), chunk.end());
         const std::optional<IconPlanes> planes =
             decodeIconPlanes(icoFile({Entry{3, 2, 32, withText}}));

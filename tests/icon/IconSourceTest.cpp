@@ -97,15 +97,14 @@ TEST(IconSource, GroupsWithoutImagesCountAndGiveBlankPlanes) {
 }
 
 TEST(IconSource, ResourceNamesOrNumbers) {
-    const std::optional<IconSource> roblox = openSample("icl/pe_format/robloxvrtoggler_icons.icl");
-    ASSERT_TRUE(roblox.has_value());
-    EXPECT_EQ(roblox->resourceName(2), "APP_ICON_ROBLOX_ON_2");
-    const std::optional<IconSource> control = openSample("icl/libexeinfo_win31_control.exe");
-    ASSERT_TRUE(control.has_value());
-    EXPECT_EQ(control->resourceName(1), "1001");
-    const std::optional<IconSource> ani = openSample("ani/pillow_stopwtch.ani");
-    ASSERT_TRUE(ani.has_value());
-    EXPECT_TRUE(ani->resourceName(1).isEmpty());
+    for (auto [path, name] :
+         {std::pair{"icl/pe_format/robloxvrtoggler_icons.icl", "APP_ICON_ROBLOX_ON_2"},
+          std::pair{"icl/libexeinfo_win31_control.exe", "1001"},
+          std::pair{"ani/pillow_stopwtch.ani", ""}}) {
+        const std::optional<IconSource> source = openSample(path);
+        ASSERT_TRUE(source.has_value()) << path;
+        EXPECT_EQ(source->resourceName(name[0] == 'A' ? 2 : 1), name) << path;
+    }
 }
 
 TEST(IconSource, AnimatedCursorFramesMatchTheReferences) {
