@@ -115,14 +115,12 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
     e.quarterTurn(5);             // "left", and a selection turns clockwise anyway
     EXPECT_EQ(e.selectionState(), SelectionState::Floating);
     EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 40, 70}));
-    const icon::IconBitmap lifted = [] {
-        IconEditor source;
-        source.loadIcon(patternedIcon());
-        drawSelection(source, 1, 2, 6, 5);
-        source.press(1, 15, 25);
-        source.release(1, 15, 25);
-        return source.selectionBuffers();
-    }();
+    icon::IconBitmap lifted{icon::Frame(5, 3), icon::Frame(5, 3)};
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x) {
+            lifted.image.set(x, y, patternedIcon().image.at(1 + x, 2 + y));
+            lifted.mask.set(x, y, patternedIcon().mask.at(1 + x, 2 + y));
+        }
     EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
     EXPECT_EQ(e.planes(), patternedIcon());
     EXPECT_EQ(e.history().undoCount(), 1u);

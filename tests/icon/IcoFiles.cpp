@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QImage>
 
+#include <cstdlib>
+
 namespace icontest {
 
 namespace {
@@ -114,6 +116,30 @@ std::vector<std::uint8_t> png(int width, int height,
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
     return {data.begin(), data.end()};
+}
+
+int mismatches(const icon::IconBitmap& decoded, const QImage& reference, std::string& first,
+               int tolerance) {
+    if (decoded.width() != reference.width() || decoded.height() != reference.height()) {
+        first = "size differs";
+        return decoded.width() * decoded.height() + 1;
+    }
+    const QImage ref = reference.convertToFormat(QImage::Format_ARGB32);
+    int count = 0;
+    for (int y = 0; y < ref.height(); ++y)
+        for (int x = 0; x < ref.width(); ++x) {
+            const QRgb p = ref.pixel(x, y);
+            const bool refTransparent = qAlpha(p) < 128;
+            const bool transparent = icon::isTransparentMask(decoded.mask.at(x, y));
+            const icon::Colour c = decoded.image.at(x, y);
+            const bool close = std::abs(icon::redOf(c) - qRed(p)) <= tolerance &&
+                               std::abs(icon::greenOf(c) - qGreen(p)) <= tolerance &&
+                               std::abs(icon::blueOf(c) - qBlue(p)) <= tolerance;
+            const bool same = refTransparent == transparent && (transparent || close);
+            if (!same && count++ == 0)
+                first = "first at (" + std::to_string(x) + "," + std::to_string(y) + ")";
+        }
+    return count;
 }
 
 } // namespace icontest

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "icon/Colour.h"
+#include "icon/IconBitmap.h"
+
+#include <QImage>
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace icontest {
@@ -47,5 +51,11 @@ std::vector<std::uint8_t> icoFile(const DibSpec& bitmap);
 // A PNG file of width×height with the colour and alpha given per pixel (0xAARRGGBB).
 std::vector<std::uint8_t> png(int width, int height,
                               const std::function<std::uint32_t(int, int)>& argb);
+
+// Mismatching pixels between a decoded image and a reference picture: transparency must agree
+// (alpha below 128 is transparent) and opaque pixels must have the same colour, each channel
+// within `tolerance`. `first` tells where the first one is.
+int mismatches(const icon::IconBitmap& decoded, const QImage& reference, std::string& first,
+               int tolerance = 0);
 
 } // namespace icontest

@@ -300,27 +300,24 @@ TEST(IcoReader, AnUndecodableFirstChoiceFallsBackOnTheNext) {
 }
 
 TEST(IcoReader, RefusesWhatIsOutsideTheLimits) {
-    std::vector<std::vector<std::uint8_t>> refused;
-    DibSpec wide = patterned(1, 4, 4);
-    wide.headerWidth = 257;
-    refused.push_back(icoFile({Entry{4, 4, 1, dib(wide)}}));
-    DibSpec bigTable = patterned(8, 4, 4);
-    bigTable.coloursUsed = 257;
-    refused.push_back(icoFile(bigTable));
-    DibSpec rle = patterned(8, 4, 4);
-    rle.compression = 1;
-    refused.push_back(icoFile(rle));
-    DibSpec depth = patterned(24, 4, 4);
-    depth.bits = 2;
-    refused.push_back(icoFile({Entry{4, 4, 2, dib(depth)}}));
+    const auto changed = [](int bits, auto change) {
+        DibSpec s = patterned(bits, 4, 4);
+        change(s);
+        return icoFile({Entry{4, 4, s.bits, dib(s)}});
+    };
+    std::vector<std::vector<std::uint8_t>> refused{
+        changed(1, [](DibSpec& s) { s.headerWidth = 257; }),
+        changed(8, [](DibSpec& s) { s.coloursUsed = 257; }),
+        changed(8, [](DibSpec& s) { s.compression = 1; }),
+        changed(24, [](DibSpec& s) { s.bits = 2; }),
+    };
     std::vector<std::uint8_t> cutColours = icoFile(patterned(24, 4, 4));
     cutColours.resize(6 + 16 + 40 + 4 * 12 - 1);
     refused.push_back(cutColours);
     refused.push_back(icoFile({Entry{0, 0, 32, png(1025, 1, [](int, int) { return 0u; })}}));
-    std::vector<std::uint8_t> extraEntry = icoFile(patterned(24, 4, 4));
-    extraEntry[4] = 200; // 200 entries cannot fit in the file
-    refused.push_back(extraEntry);
-    for (auto [offset, value] : {std::pair{0, 1}, std::pair{2, 3}, std::pair{2, 0}}) {
+    // A bad reserved word or type, or 200 entries that cannot fit in the file.
+    for (auto [offset, value] :
+         {std::pair{0, 1}, std::pair{2, 3}, std::pair{2, 0}, std::pair{4, 200}}) {
         std::vector<std::uint8_t> header = icoFile(patterned(24, 4, 4));
         header[static_cast<std::size_t>(offset)] = static_cast<std::uint8_t>(value);
         refused.push_back(header);

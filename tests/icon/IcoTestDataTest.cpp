@@ -2,6 +2,7 @@
 // matches, and broken files (shipped, or cut and damaged here) are refused or decoded cleanly.
 #include "icon/IcoReader.h"
 
+#include "tests/icon/IcoFiles.h"
 #include "tests/support/TestData.h"
 
 #include <QFileInfo>
@@ -16,6 +17,7 @@
 #include <set>
 
 using namespace icon;
+using icontest::mismatches;
 using testsupport::fileBytes;
 using testsupport::testData;
 using testsupport::testFiles;
@@ -24,32 +26,6 @@ namespace {
 
 QString nameOf(const QString& path) {
     return QFileInfo(path).fileName();
-}
-
-// Mismatching pixels between a decoded image and a reference PNG: transparency must agree
-// (alpha below 128 is transparent) and opaque pixels must have the same colour.
-int mismatches(const IconBitmap& decoded, const QImage& reference, std::string& first,
-               int tolerance) {
-    if (decoded.width() != reference.width() || decoded.height() != reference.height()) {
-        first = "size differs";
-        return decoded.width() * decoded.height() + 1;
-    }
-    const QImage ref = reference.convertToFormat(QImage::Format_ARGB32);
-    int count = 0;
-    for (int y = 0; y < ref.height(); ++y)
-        for (int x = 0; x < ref.width(); ++x) {
-            const QRgb p = ref.pixel(x, y);
-            const bool refTransparent = qAlpha(p) < 128;
-            const bool transparent = isTransparentMask(decoded.mask.at(x, y));
-            const Colour c = decoded.image.at(x, y);
-            const bool close = std::abs(redOf(c) - qRed(p)) <= tolerance &&
-                               std::abs(greenOf(c) - qGreen(p)) <= tolerance &&
-                               std::abs(blueOf(c) - qBlue(p)) <= tolerance;
-            const bool same = refTransparent == transparent && (transparent || close);
-            if (!same && count++ == 0)
-                first = "first at (" + std::to_string(x) + "," + std::to_string(y) + ")";
-        }
-    return count;
 }
 
 // Files that hold icons, by base name without extension.
