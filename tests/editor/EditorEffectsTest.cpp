@@ -130,21 +130,6 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
     EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
 }
 
-TEST(EditorEffects, FourQuarterTurnsAndTwoNegativesGiveTheIconBack) {
-    const struct {
-        int times;
-        std::function<Events(IconEditor&)> run;
-    } cases[] = {{4, kBlockEffects[2].run}, {4, kBlockEffects[3].run}, {2, kBlockEffects[9].run}};
-    for (const auto& c : cases) {
-        IconEditor e;
-        e.loadIcon(patternedIcon());
-        for (int i = 0; i < c.times; ++i)
-            c.run(e);
-        EXPECT_EQ(e.planes(), patternedIcon());
-        EXPECT_EQ(e.history().undoCount(), 1u + c.times);
-    }
-}
-
 TEST(EditorEffects, ReflectionsNeedEvenSidesOfTheSelection) {
     IconEditor e;
     EXPECT_TRUE(e.reflectionEnabled(0) && e.reflectionEnabled(3));

@@ -19,18 +19,14 @@ TEST(Rounding, HalvesGoToTheEvenNeighbour) {
 }
 
 TEST(ColourTransforms, GreyLevelsWeighTheChannels) {
+    // The level is (222·r + 707·g + 71·b) / 1000, halves rounded to even: 2500 gives 2,
+    // 3500 gives 4, 1500 gives 2.
     const struct {
         icon::Colour colour;
         int expected;
-    } cases[] = {
-        {rgb(255, 255, 255), 255},                       // (222 + 707 + 71) · 255 / 1000 exactly
-        {rgb(0, 0, 1), 0},                               // S = 71
-        {rgb(2, 1, 19), 2},                              // S = 2500: halves to even
-        {rgb(3, 2, 20), 4},                              // S = 3500
-        {rgb(1, 0, 18), 2},                              // S = 1500
-        {rgb(0, 0, 0), 0},         {rgb(100, 0, 0), 22}, // 22.2
-        {rgb(0, 100, 0), 71},                            // 70.7
-    };
+    } cases[] = {{rgb(255, 255, 255), 255}, {rgb(0, 0, 1), 0},  {rgb(2, 1, 19), 2},
+                 {rgb(3, 2, 20), 4},        {rgb(1, 0, 18), 2}, {rgb(100, 0, 0), 22},
+                 {rgb(0, 100, 0), 71}};
     for (const auto& c : cases)
         EXPECT_EQ(effects::greyOf(c.colour), rgb(c.expected, c.expected, c.expected))
             << std::hex << c.colour;

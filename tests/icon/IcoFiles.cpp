@@ -21,7 +21,7 @@ void put32(std::vector<std::uint8_t>& out, std::uint32_t v) {
 
 } // namespace
 
-std::vector<std::uint8_t> dib(const DibSpec& s) {
+std::vector<std::uint8_t> dib(const BitmapPlan& s) {
     std::vector<std::uint8_t> out;
     put32(out, 40);
     put32(out, static_cast<std::uint32_t>(s.headerWidth >= 0 ? s.headerWidth : s.width));
@@ -101,7 +101,7 @@ std::vector<std::uint8_t> icoFile(const std::vector<Entry>& entries, int type) {
     return out;
 }
 
-std::vector<std::uint8_t> icoFile(const DibSpec& bitmap) {
+std::vector<std::uint8_t> icoFile(const BitmapPlan& bitmap) {
     return icoFile({Entry{bitmap.width, bitmap.height, bitmap.bits, dib(bitmap)}});
 }
 

@@ -16,7 +16,7 @@ using Bytes = std::vector<std::uint8_t>;
 Bytes icoFile(std::initializer_list<int> sides) {
     std::vector<icontest::Entry> entries;
     for (int side : sides) {
-        icontest::DibSpec s;
+        icontest::BitmapPlan s;
         s.width = s.height = side;
         s.pixel = [side](int, int) {
             return static_cast<std::uint32_t>(side);
