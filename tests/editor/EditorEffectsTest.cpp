@@ -22,64 +22,39 @@ struct EffectCase {
     std::function<Events(IconEditor&)> run;
 };
 
+// Flips, turns and reflections by the index of their menu entry.
+EffectCase indexed(const char* name, Events (IconEditor::*effect)(int), int index) {
+    return {name, [=](IconEditor& e) {
+                return (e.*effect)(index);
+            }};
+}
+
 const std::vector<EffectCase> kBlockEffects = {
-    {"mirror left-right",
-     [](IconEditor& e) {
-         return e.flip(3);
-     }},
-    {"mirror top-bottom",
-     [](IconEditor& e) {
-         return e.flip(4);
-     }},
-    {"turn left",
-     [](IconEditor& e) {
-         return e.quarterTurn(5);
-     }},
-    {"turn right",
-     [](IconEditor& e) {
-         return e.quarterTurn(6);
-     }},
-    {"reflect left/right",
-     [](IconEditor& e) {
-         return e.halfReflect(0);
-     }},
-    {"reflect right/left",
-     [](IconEditor& e) {
-         return e.halfReflect(1);
-     }},
-    {"reflect top/bottom",
-     [](IconEditor& e) {
-         return e.halfReflect(2);
-     }},
-    {"reflect bottom/top",
-     [](IconEditor& e) {
-         return e.halfReflect(3);
-     }},
-    {"grey levels",
-     [](IconEditor& e) {
-         return e.greyLevels();
-     }},
-    {"negative",
-     [](IconEditor& e) {
-         return e.negative();
-     }},
+    indexed("mirror left-right", &IconEditor::flip, 3),
+    indexed("mirror top-bottom", &IconEditor::flip, 4),
+    indexed("turn left", &IconEditor::quarterTurn, 5),
+    indexed("turn right", &IconEditor::quarterTurn, 6),
+    indexed("reflect left/right", &IconEditor::halfReflect, 0),
+    indexed("reflect right/left", &IconEditor::halfReflect, 1),
+    indexed("reflect top/bottom", &IconEditor::halfReflect, 2),
+    indexed("reflect bottom/top", &IconEditor::halfReflect, 3),
+    {"grey levels", &IconEditor::greyLevels},
+    {"negative", &IconEditor::negative},
 };
 
+Events adjustColours(IconEditor& e) {
+    auto adjuster = e.beginColourAdjustment();
+    adjuster.change(effects::ColourAdjuster::Bar::Brightness, 5);
+    return e.applyColourAdjustment(adjuster);
+}
+
 const std::vector<EffectCase> kWholeIconEffects = {
-    {"button",
-     [](IconEditor& e) {
-         return e.buttonEffect();
-     }},
+    {"button", &IconEditor::buttonEffect},
     {"gradient",
      [](IconEditor& e) {
          return e.applyBackground(effects::Gradient::render(0, icon::kWhite, 45));
      }},
-    {"colour adjustment",
-     [](IconEditor& e) {
-         auto adjuster = e.beginColourAdjustment();
-         adjuster.change(effects::ColourAdjuster::Bar::Brightness, 5);
-         return e.applyColourAdjustment(adjuster);
-     }},
+    {"colour adjustment", adjustColours},
 };
 
 } // namespace
@@ -140,14 +115,12 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
     e.quarterTurn(5);             // "left", and a selection turns clockwise anyway
     EXPECT_EQ(e.selectionState(), SelectionState::Floating);
     EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 40, 70}));
-    const icon::IconBitmap lifted = [] {
-        IconEditor source;
-        source.loadIcon(patternedIcon());
-        drawSelection(source, 1, 2, 6, 5);
-        source.press(1, 15, 25);
-        source.release(1, 15, 25);
-        return source.selectionBuffers();
-    }();
+    icon::IconBitmap lifted{icon::Frame(5, 3), icon::Frame(5, 3)};
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x) {
+            lifted.image.set(x, y, patternedIcon().image.at(1 + x, 2 + y));
+            lifted.mask.set(x, y, patternedIcon().mask.at(1 + x, 2 + y));
+        }
     EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
     EXPECT_EQ(e.planes(), patternedIcon());
     EXPECT_EQ(e.history().undoCount(), 1u);
@@ -155,24 +128,6 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
     EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 60, 50}));
     e.quarterTurn(7); // the one index that turns a selection to the left
     EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
-}
-
-TEST(EditorEffects, FourQuarterTurnsAndTwoNegativesGiveTheIconBack) {
-    for (int index : {5, 6}) {
-        IconEditor e;
-        e.loadIcon(patternedIcon());
-        for (int i = 0; i < 4; ++i)
-            e.quarterTurn(index);
-        EXPECT_EQ(e.planes(), patternedIcon());
-        EXPECT_EQ(e.history().undoCount(), 5u);
-    }
-    IconEditor e;
-    e.loadIcon(patternedIcon());
-    e.quarterTurn(5);
-    e.quarterTurn(6);
-    e.negative();
-    e.negative();
-    EXPECT_EQ(e.planes(), patternedIcon());
 }
 
 TEST(EditorEffects, ReflectionsNeedEvenSidesOfTheSelection) {

@@ -54,12 +54,22 @@ TEST(Figures, RectanglesIncludeBothCorners) {
     EXPECT_EQ(picture(outline, 5, 4),
               (std::vector<std::string>{"#####", "#...#", "#...#", "#####"}));
     EXPECT_EQ(cellsOf(figureCells(Tool::FilledRectangle, 0, 0, 4, 3, 1, 2)).size(), 20u);
+}
 
-    // Two colours: the interior in the other colour first, then the outline over it.
-    const auto two = figureCells(Tool::TwoColourRectangle, 0, 0, 4, 3, 1, 2);
-    EXPECT_EQ(cellsOf(two, 1), outline);
-    EXPECT_EQ(cellsOf(two, 2), (CellSet{{1, 1}, {2, 1}, {3, 1}, {1, 2}, {2, 2}, {3, 2}}));
-    EXPECT_EQ(two.front().colour, 2u);
+TEST(Figures, TwoColourFiguresPaintTheirInteriorFirstInTheOtherColour) {
+    const struct {
+        Tool tool, outline;
+        int right, bottom;
+        std::size_t interior;
+    } cases[] = {{Tool::TwoColourRectangle, Tool::Rectangle, 4, 3, 6},
+                 {Tool::TwoColourEllipse, Tool::Ellipse, 6, 6, 21}};
+    for (const auto& c : cases) {
+        const auto cells = figureCells(c.tool, 0, 0, c.right, c.bottom, 1, 2);
+        EXPECT_EQ(cellsOf(cells, 1),
+                  cellsOf(figureCells(c.outline, 0, 0, c.right, c.bottom, 1, 2)));
+        EXPECT_EQ(cellsOf(cells, 2).size(), c.interior);
+        EXPECT_EQ(cells.front().colour, 2u);
+    }
 }
 
 TEST(Figures, EllipsesAreInscribedAndSymmetric) {
@@ -91,14 +101,6 @@ TEST(Figures, EllipsesAreInscribedAndSymmetric) {
     // One cell wide, it is a line.
     EXPECT_EQ(cellsOf(figureCells(Tool::Ellipse, 5, 0, 5, 9, 1, 2)).size(), 10u);
     EXPECT_EQ(cellsOf(figureCells(Tool::Ellipse, 0, 5, 9, 5, 1, 2)).size(), 10u);
-}
-
-TEST(Figures, TwoColourEllipseHasItsInteriorInTheOtherColour) {
-    const auto cells = figureCells(Tool::TwoColourEllipse, 0, 0, 6, 6, 1, 2);
-    const auto ring = cellsOf(figureCells(Tool::Ellipse, 0, 0, 6, 6, 1, 2));
-    EXPECT_EQ(cellsOf(cells, 1), ring);
-    EXPECT_EQ(cellsOf(cells, 2).size(), 21u);
-    EXPECT_EQ(cells.front().colour, 2u);
 }
 
 TEST(Figures, OnlyCellsInsideTheIconAreGiven) {

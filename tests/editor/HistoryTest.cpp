@@ -1,37 +1,10 @@
-#include "editor/History.h"
 #include "EditorTestUtil.h"
 
 #include <gtest/gtest.h>
 
-using editor::History;
 using editor::IconEditor;
 using editor::Tool;
 using editortest::click;
-
-namespace {
-
-icon::IconPlanes withPixel(int x, icon::Colour c) {
-    icon::IconPlanes p;
-    p.paint(x, 0, c);
-    return p;
-}
-
-} // namespace
-
-TEST(History, UndoOfTheBaseMovesItAcrossAndFails) {
-    History h;
-    h.PushSnapshot(withPixel(0, 1));
-    EXPECT_EQ(h.counter(), 1);
-    EXPECT_FALSE(h.Undo());
-    EXPECT_EQ(h.undoCount(), 0u);
-    EXPECT_EQ(h.redoCount(), 1u);
-    EXPECT_FALSE(h.Undo()); // nothing left at all
-    // The redo brings the base back.
-    const auto back = h.Redo();
-    ASSERT_TRUE(back);
-    EXPECT_EQ(*back, withPixel(0, 1));
-    EXPECT_FALSE(h.Redo());
-}
 
 TEST(EditorHistory, ThreeStrokesUndoneAndRedone) {
     IconEditor e;
@@ -57,13 +30,7 @@ TEST(EditorHistory, ThreeStrokesUndoneAndRedone) {
         EXPECT_EQ(e.planes(), states[i]);
     }
     EXPECT_EQ(e.Redo(), editor::kHistoryFailed);
-}
-
-TEST(EditorHistory, ANewStrokeEmptiesTheRedoStack) {
-    IconEditor e;
-    e.selectTool(Tool::Pencil);
-    click(e, 1, 1, 1);
-    click(e, 1, 2, 2);
+    // A new stroke empties the redo stack.
     e.Undo();
     e.Undo();
     EXPECT_EQ(e.history().redoCount(), 2u);

@@ -6,17 +6,6 @@
 using editor::IconEditor;
 using editor::Palette;
 
-TEST(Palette, InitialValuesComeFromTheResource) {
-    const Palette p;
-    const struct {
-        int index;
-        icon::Colour colour;
-    } cases[] = {{0, 0x000000},   {1, 0x000080},   {9, 0xF0CAA6},   {22, 0x807CFF}, {127, 0xCC00FF},
-                 {233, 0x2100A5}, {245, 0xF8F8F8}, {246, 0xF0FBFF}, {255, 0xFFFFFF}};
-    for (const auto& c : cases)
-        EXPECT_EQ(p.at(c.index), c.colour) << c.index;
-}
-
 TEST(Palette, ParsesIdentifiersAndSkipsTheRest) {
     const auto colours = Palette::parse("# comment\n\n101 255\n99 7\n356 9\n355 65280\nbad line\n");
     EXPECT_EQ(colours[1], 255u);

@@ -11,7 +11,6 @@ TEST(PasteSizing, TheDialogIsForPicturesLargerThanTheIcon) {
     EXPECT_TRUE(editor::pasteNeedsDialog({33, 10}));
     EXPECT_TRUE(editor::pasteNeedsDialog({1, 33}));
     EXPECT_FALSE(editor::pasteNeedsDialog({32, 32}));
-    EXPECT_EQ(editor::pasteSizeText({64, 48}), "64 x 48 pixels");
 }
 
 TEST(PasteSizing, ProportionalSizeShrinksInTenThousandths) {
@@ -25,10 +24,7 @@ TEST(PasteSizing, ProportionalSizeShrinksInTenThousandths) {
     // At least one step is always taken, even for a picture that already fits.
     EXPECT_EQ(editor::ProportionalSize(32, 16), QSize(32, 16));
     EXPECT_EQ(editor::ProportionalSize(10, 10), QSize(10, 10));
-}
-
-TEST(PasteSizing, SizeFollowsTheDialogsAnswer) {
-    EXPECT_EQ(editor::pasteSize({100, 50}, PasteFit::Proportional), QSize(32, 16));
+    // The dialog's other answer squeezes a large picture into the square.
     EXPECT_EQ(editor::pasteSize({100, 50}, PasteFit::Square), QSize(32, 32));
     EXPECT_EQ(editor::pasteSize({20, 7}, PasteFit::Square), QSize(20, 7));
 }

@@ -58,18 +58,17 @@ TEST(Pencil, AStrokeIsOneStepInTheButtonsColour) {
     EXPECT_EQ(e.release(4, at(9), at(9)), editor::kNoEvent);
     EXPECT_TRUE(e.planes().isTransparent(9, 9));
     EXPECT_EQ(e.history().undoCount(), 2u);
-}
-
-TEST(Eraser, MakesPixelsTransparentWhateverTheButton) {
-    IconEditor e;
-    e.loadIcon(editortest::patternedIcon());
+    // Without a held button a move draws nothing but still updates the readout.
+    EXPECT_EQ(e.move(1, 123.4, 56.5), editor::kPositionChanged);
+    EXPECT_EQ(e.positionText(), "  12 , 5");
+    EXPECT_TRUE(e.planes().isTransparent(12, 5));
+    // The eraser makes pixels transparent (and black) whatever the button.
     e.selectTool(Tool::Eraser);
     stroke(e, 2, {{1, 1}, {2, 1}});
-    for (int x : {1, 2}) {
-        EXPECT_TRUE(e.planes().isTransparent(x, 1));
-        EXPECT_EQ(e.planes().image.at(x, 1), icon::kBlack);
-    }
-    EXPECT_EQ(e.history().undoCount(), 2u);
+    EXPECT_TRUE(e.planes().isTransparent(2, 1));
+    EXPECT_EQ(e.planes().image.at(2, 1), icon::kBlack);
+    EXPECT_EQ(opaqueCount(e.planes()), 2);
+    EXPECT_EQ(e.history().undoCount(), 3u);
 }
 
 TEST(Picker, TakesAnOpaqueColourAndGoesBackToThePreviousTool) {
@@ -79,6 +78,7 @@ TEST(Picker, TakesAnOpaqueColourAndGoesBackToThePreviousTool) {
     e.loadIcon(icon);
     e.selectTool(Tool::Line);
     e.selectTool(Tool::Picker);
+    e.selectTool(Tool::Picker); // chosen twice, it still hands back the tool before it
     const Events events = click(e, 2, 4, 4);
     EXPECT_EQ(events & editor::kColoursChanged, editor::kColoursChanged);
     EXPECT_EQ(e.buttonColour(1), rgb(1, 2, 3));
@@ -183,35 +183,15 @@ TEST(Figures, EveryFigureToolRecordsOneStep) {
 
 TEST(ToolPad, MapsPointsToTools) {
     using editor::ToolPad;
-    EXPECT_EQ(ToolPad::toolAt(0, 0), Tool::Selection);
-    EXPECT_EQ(ToolPad::toolAt(27, 25), Tool::Selection);
-    EXPECT_EQ(ToolPad::toolAt(28, 0), Tool::Pencil);
-    EXPECT_EQ(ToolPad::toolAt(111, 0), Tool::Picker);
-    EXPECT_EQ(ToolPad::toolAt(0, 26), Tool::Fill);
-    EXPECT_EQ(ToolPad::toolAt(111, 77), Tool::TwoColourEllipse);
-    EXPECT_FALSE(ToolPad::toolAt(112, 0));
-    EXPECT_EQ(editor::toolName(Tool::TwoColourRectangle), "Rectangle rempli");
-    EXPECT_EQ(editor::toolName(Tool::Selection), "Sélection");
-}
-
-TEST(Picker, ChosenTwiceStillHandsBackTheToolBeforeIt) {
-    IconEditor e;
-    e.selectTool(Tool::Eraser);
-    e.selectTool(Tool::Picker);
-    e.selectTool(Tool::Picker);
-    EXPECT_EQ(e.previousTool(), Tool::Eraser);
-    click(e, 1, 0, 0);
-    EXPECT_EQ(e.tool(), Tool::Eraser);
-}
-
-TEST(Canvas, EveryMoveUpdatesThePositionReadout) {
-    IconEditor e;
-    EXPECT_EQ(e.move(0, 123.4, 56.5), editor::kPositionChanged);
-    EXPECT_EQ(e.positionText(), "  12 , 5");
-    e.move(0, 2000, 2000);
-    EXPECT_EQ(e.positionText(), "31 , 31");
-    // Without a held button nothing is drawn.
-    e.selectTool(Tool::Pencil);
-    e.move(1, 55, 55);
-    EXPECT_EQ(e.planes(), icon::IconPlanes::blank());
+    const struct {
+        int x, y;
+        std::optional<Tool> tool;
+    } cases[] = {{27, 25, Tool::Selection},
+                 {28, 0, Tool::Pencil},
+                 {111, 0, Tool::Picker},
+                 {0, 26, Tool::Fill},
+                 {111, 77, Tool::TwoColourEllipse},
+                 {112, 0, {}}};
+    for (const auto& c : cases)
+        EXPECT_EQ(ToolPad::toolAt(c.x, c.y), c.tool) << c.x << "," << c.y;
 }

@@ -35,31 +35,27 @@ int countDifferent(const Frame& frame, icon::Colour background) {
 
 } // namespace
 
-TEST(Kaleidoscope, SetsEightMirroredPoints) {
-    // x = round(0.25·16) = 4, y = round(0.5·16) = 8, colour = round(0.5·16777215) = 8388608.
+TEST(Kaleidoscope, OneDrawSetsItsMirroredPointsInsideTheIcon) {
+    // x = round(0.25·16) = 4, y = round(0.5·16) = 8: eight copies. x = round(0.99·16) = 16:
+    // only the copies at −16 land, in column 0 and row 0.
+    const struct {
+        std::vector<float> draw;
+        std::vector<std::pair<int, int>> points;
+    } cases[] = {
+        {{0.25f, 0.5f, 0.5f},
+         {{20, 8}, {12, 8}, {20, 24}, {12, 24}, {24, 12}, {8, 12}, {24, 20}, {8, 20}}},
+        {{0.99f, 0.5f, 0.1f}, {{0, 8}, {0, 24}, {24, 0}, {8, 0}}},
+    };
+    for (const auto& c : cases) {
+        ScriptedGenerator random(c.draw);
+        const Frame f = Kaleidoscope::generate(1, icon::kWhite, random);
+        const icon::Colour dot = f.at(c.points[0].first, c.points[0].second);
+        for (const auto& [x, y] : c.points)
+            EXPECT_EQ(f.at(x, y), dot) << x << "," << y;
+        EXPECT_EQ(countDifferent(f, icon::kWhite), static_cast<int>(c.points.size()));
+    }
     ScriptedGenerator random({0.25f, 0.5f, 0.5f});
-    const Frame f = Kaleidoscope::generate(1, icon::kBlack, random);
-    const icon::Colour dot = 8388608;
-    const int expected[8][2] = {{20, 8},  {12, 8}, {20, 24}, {12, 24},
-                                {24, 12}, {8, 12}, {24, 20}, {8, 20}};
-    for (const auto& p : expected)
-        EXPECT_EQ(f.at(p[0], p[1]), dot) << p[0] << "," << p[1];
-    EXPECT_EQ(countDifferent(f, icon::kBlack), 8);
-}
-
-TEST(Kaleidoscope, PointsOnThePositiveEdgesFallOutside) {
-    // x = round(0.99·16) = 16: only the copies with −16 land, in column 0 and row 0.
-    ScriptedGenerator random({0.99f, 0.5f, 0.1f});
-    const Frame f = Kaleidoscope::generate(1, icon::kWhite, random);
-    EXPECT_EQ(countDifferent(f, icon::kWhite), 4);
-    for (const auto& p : {std::pair{0, 8}, {0, 24}, {24, 0}, {8, 0}})
-        EXPECT_NE(f.at(p.first, p.second), icon::kWhite);
-    int column = 0, row = 0;
-    EXPECT_FALSE(Kaleidoscope::pixelOf(16, 0, column, row));
-    EXPECT_FALSE(Kaleidoscope::pixelOf(0, -16, column, row));
-    EXPECT_TRUE(Kaleidoscope::pixelOf(-16, 16, column, row));
-    EXPECT_EQ(column, 0);
-    EXPECT_EQ(row, 0);
+    EXPECT_EQ(Kaleidoscope::generate(1, icon::kBlack, random).at(20, 8), 8388608u);
 }
 
 TEST(Kaleidoscope, TheSameSeedGivesTheSamePattern) {
@@ -77,40 +73,36 @@ TEST(Kaleidoscope, TheSameSeedGivesTheSamePattern) {
         }
 }
 
-TEST(Gradient, StraightAnglesReachTheirExactValues) {
-    const Frame f = Gradient::render(icon::kBlack, icon::kWhite, 0);
-    const struct { int column, level; } cases[] = {{0, 0}, {1, 8}, {16, 128}, {31, 247}};
-    for (const auto& c : cases)
-        for (int y : {0, 31})
-            EXPECT_EQ(f.at(c.column, y), rgb(c.level, c.level, c.level)) << c.column;
-    EXPECT_EQ(Gradient::render(icon::kBlack, icon::kWhite, 360), f);
-    // Start at the top, the right and the bottom edge.
-    const Frame down = Gradient::render(icon::kBlack, icon::kWhite, 90);
-    const Frame fromRight = Gradient::render(icon::kBlack, icon::kWhite, 180);
-    const Frame up = Gradient::render(icon::kBlack, icon::kWhite, 270);
-    for (int i = 0; i < 32; ++i) {
-        EXPECT_EQ(down.at(7, i), f.at(i, 0));
-        EXPECT_EQ(fromRight.at(31 - i, 7), f.at(i, 0));
-        EXPECT_EQ(up.at(7, 31 - i), f.at(i, 0));
-    }
-}
-
-TEST(Gradient, DiagonalsStartInTheirCorners) {
-    const Frame d45 = Gradient::render(icon::kBlack, icon::kWhite, 45);
-    EXPECT_EQ(d45.at(0, 0), rgb(4, 4, 4));
-    EXPECT_EQ(d45.at(1, 0), rgb(4, 4, 4));
-    EXPECT_EQ(d45.at(0, 1), rgb(4, 4, 4));
-    EXPECT_EQ(d45.at(31, 31), rgb(247, 247, 247)); // round(62·255/64)
-    EXPECT_EQ(d45.at(3, 5), Gradient::colourOf(8, icon::kBlack, icon::kWhite, 64));
+TEST(Gradient, EveryAngleIsTheLeftEdgeOrTopLeftGradientTurned) {
+    const Frame straight = Gradient::render(icon::kBlack, icon::kWhite, 0);
+    const Frame diagonal = Gradient::render(icon::kBlack, icon::kWhite, 45);
+    // Steps of 1/32 straight and 1/64 diagonally; the corner (0, 0) takes step 1 like its
+    // neighbours.
     const struct {
-        int angle, cornerX, cornerY;
-    } cases[] = {{135, 31, 0}, {225, 31, 31}, {315, 0, 31}};
-    for (const auto& c : cases) {
-        const Frame f = Gradient::render(icon::kBlack, icon::kWhite, c.angle);
+        const Frame& frame;
+        int x, y, level;
+    } values[] = {{straight, 0, 0, 0},     {straight, 1, 31, 8}, {straight, 16, 0, 128},
+                  {straight, 31, 31, 247}, {diagonal, 0, 0, 4},  {diagonal, 1, 0, 4},
+                  {diagonal, 0, 1, 4},     {diagonal, 3, 5, 32}, {diagonal, 31, 31, 247}};
+    for (const auto& v : values)
+        EXPECT_EQ(v.frame.at(v.x, v.y), rgb(v.level, v.level, v.level)) << v.x << "," << v.y;
+    // Pixel (x, y) at each other angle is a pixel of one of these two, swapped and mirrored.
+    const struct {
+        int angle;
+        const Frame& source;
+        bool swap, flipX, flipY;
+    } turns[] = {{360, straight, false, false, false}, {90, straight, true, false, false},
+                 {180, straight, false, true, false},  {270, straight, true, true, false},
+                 {135, diagonal, false, true, false},  {225, diagonal, false, true, true},
+                 {315, diagonal, false, false, true}};
+    for (const auto& t : turns) {
+        const Frame f = Gradient::render(icon::kBlack, icon::kWhite, t.angle);
         for (int y = 0; y < 32; ++y)
-            for (int x = 0; x < 32; ++x)
-                ASSERT_EQ(f.at(x, y), d45.at(c.cornerX ? 31 - x : x, c.cornerY ? 31 - y : y))
-                    << c.angle;
+            for (int x = 0; x < 32; ++x) {
+                const int sx = t.swap ? y : x, sy = t.swap ? x : y;
+                ASSERT_EQ(f.at(x, y), t.source.at(t.flipX ? 31 - sx : sx, t.flipY ? 31 - sy : sy))
+                    << t.angle << ": " << x << "," << y;
+            }
     }
 }
 
@@ -119,8 +111,6 @@ TEST(Gradient, FallingChannelsAndEqualEnds) {
     const icon::Colour same = rgb(12, 34, 56);
     for (int direction = 0; direction <= Gradient::kMaxDirection; ++direction)
         EXPECT_EQ(Gradient::render(same, same, Gradient::angleOf(direction)), Frame(32, 32, same));
-    EXPECT_EQ(Gradient::label(7), "007");
-    EXPECT_EQ(Gradient::label(255), "255");
 }
 
 TEST(Background, FillsOnlyTransparentPixelsAndMakesAllOpaque) {

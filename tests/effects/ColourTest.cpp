@@ -19,18 +19,14 @@ TEST(Rounding, HalvesGoToTheEvenNeighbour) {
 }
 
 TEST(ColourTransforms, GreyLevelsWeighTheChannels) {
+    // The level is (222·r + 707·g + 71·b) / 1000, halves rounded to even: 2500 gives 2,
+    // 3500 gives 4, 1500 gives 2.
     const struct {
         icon::Colour colour;
         int expected;
-    } cases[] = {
-        {rgb(255, 255, 255), 255},                       // (222 + 707 + 71) · 255 / 1000 exactly
-        {rgb(0, 0, 1), 0},                               // S = 71
-        {rgb(2, 1, 19), 2},                              // S = 2500: halves to even
-        {rgb(3, 2, 20), 4},                              // S = 3500
-        {rgb(1, 0, 18), 2},                              // S = 1500
-        {rgb(0, 0, 0), 0},         {rgb(100, 0, 0), 22}, // 22.2
-        {rgb(0, 100, 0), 71},                            // 70.7
-    };
+    } cases[] = {{rgb(255, 255, 255), 255}, {rgb(0, 0, 1), 0},  {rgb(2, 1, 19), 2},
+                 {rgb(3, 2, 20), 4},        {rgb(1, 0, 18), 2}, {rgb(100, 0, 0), 22},
+                 {rgb(0, 100, 0), 71}};
     for (const auto& c : cases)
         EXPECT_EQ(effects::greyOf(c.colour), rgb(c.expected, c.expected, c.expected))
             << std::hex << c.colour;
@@ -71,47 +67,37 @@ icon::IconPlanes oneColourIcon(icon::Colour colour) {
 
 } // namespace
 
-TEST(ColourAdjuster, EveryChangeIsOneStepOfFive) {
-    ColourAdjuster adjuster(oneColourIcon(rgb(100, 100, 100)));
+TEST(ColourAdjuster, EveryChangeIsOneStepOfFiveAndTheDisplayStaysInRange) {
+    ColourAdjuster adjuster(oneColourIcon(rgb(250, 5, 0)));
+    using C = ColourAdjuster::Channels;
     const struct {
         Bar bar;
         int value;
-        ColourAdjuster::Channels expected;
+        C working, display;
     } steps[] = {
-        {Bar::Red, 5, {105, 100, 100}},
-        {Bar::Red, 255, {110, 100, 100}}, // a jump of 250 is still one step
-        {Bar::Red, 255, {110, 100, 100}}, // no move, no step
-        {Bar::Green, -50, {110, 95, 100}},
-        {Bar::Brightness, 5, {115, 100, 105}}, // brightness moves the three channels
-        {Bar::Red, 0, {110, 100, 105}},
+        {Bar::Red, 5, {255, 5, 0}, {255, 5, 0}},
+        {Bar::Red, 255, {260, 5, 0}, {255, 5, 0}}, // a jump of 250 is still one step
+        {Bar::Red, 255, {260, 5, 0}, {255, 5, 0}}, // no move, no step
+        {Bar::Green, -50, {260, 0, 0}, {255, 0, 0}},
+        {Bar::Brightness, 5, {265, 5, 5}, {255, 5, 5}}, // brightness moves the three channels
+        {Bar::Blue, -5, {265, 5, 0}, {255, 5, 0}},
+        {Bar::Blue, -10, {265, 5, -5}, {255, 5, 0}},
+        {Bar::Red, 0, {260, 5, -5}, {255, 5, 0}},
+        {Bar::Brightness, 0, {255, 0, -10}, {255, 0, 0}},
     };
     for (const auto& s : steps) {
         adjuster.change(s.bar, s.value);
-        EXPECT_EQ(adjuster.working(0), s.expected) << s.value;
+        EXPECT_EQ(adjuster.working(0), s.working) << s.value;
+        EXPECT_EQ(adjuster.display(0), s.display) << s.value;
         EXPECT_EQ(adjuster.value(s.bar), s.value);
     }
-    EXPECT_EQ(adjuster.preview().at(31, 31), rgb(110, 100, 105));
-}
-
-TEST(ColourAdjuster, OutOfRangeValuesStayFrozenInTheDisplay) {
-    ColourAdjuster adjuster(oneColourIcon(rgb(253, 2, 0)));
-    adjuster.change(Bar::Brightness, 5);
-    EXPECT_EQ(adjuster.working(0), (ColourAdjuster::Channels{258, 7, 5}));
-    EXPECT_EQ(adjuster.display(0), (ColourAdjuster::Channels{253, 7, 5}));
-    adjuster.change(Bar::Brightness, 0);
-    EXPECT_EQ(adjuster.display(0), (ColourAdjuster::Channels{253, 2, 0}));
-    adjuster.change(Bar::Blue, -5);
-    adjuster.change(Bar::Blue, -10);
-    EXPECT_EQ(adjuster.working(0).blue, -10);
-    EXPECT_EQ(adjuster.display(0).blue, 0);
-    adjuster.change(Bar::Blue, -5);
-    EXPECT_EQ(adjuster.display(0).blue, 0); // -5 is still out of range
+    EXPECT_EQ(adjuster.preview().at(31, 31), rgb(255, 0, 0));
     icon::IconPlanes icon = oneColourIcon(0);
     adjuster.applyTo(icon);
-    EXPECT_EQ(icon.image.at(0, 0), rgb(253, 2, 0));
+    EXPECT_EQ(icon.image.at(0, 0), rgb(255, 0, 0));
 }
 
-TEST(ColourAdjuster, MarksEveryPixelWhoseMaskIsNotBlack) {
+TEST(ColourAdjuster, PixelsWhoseMaskIsNotBlackAreMarkedAndLeftAlone) {
     icon::IconPlanes icon = oneColourIcon(rgb(40, 50, 60));
     icon.erase(0, 0);
     icon.mask.set(1, 0, 0xFEFEFE);
@@ -127,32 +113,22 @@ TEST(ColourAdjuster, MarksEveryPixelWhoseMaskIsNotBlack) {
     // The step reaches the marked working value too, but never its display value.
     EXPECT_EQ(adjuster.working(0).red, 1005);
     EXPECT_EQ(adjuster.display(0), marker);
-    EXPECT_EQ(adjuster.preview().at(0, 0), rgb(0, 0, 255));
     EXPECT_EQ(adjuster.preview().at(2, 0), rgb(45, 50, 60));
-
     icon::IconPlanes result = icon;
     adjuster.applyTo(result);
     EXPECT_EQ(result.image.at(1, 0), rgb(9, 9, 9));
     EXPECT_EQ(result.image.at(2, 0), rgb(45, 50, 60));
     EXPECT_EQ(result.mask, icon.mask);
-}
 
-TEST(ColourAdjuster, ResetReturnsToTheReference) {
-    icon::IconPlanes icon = oneColourIcon(rgb(40, 50, 60));
-    icon.erase(5, 5);
-    ColourAdjuster adjuster(icon, rgb(0, 0, 255));
+    // A reset goes back to the reference, the marker saturating to white in the preview, and
+    // the bars' previous values are 0 again: setting a bar to 0 makes no step, 5 makes one.
     adjuster.change(Bar::Brightness, 30);
-    adjuster.change(Bar::Green, -5);
     adjuster.reset();
-    for (Bar bar : {Bar::Brightness, Bar::Red, Bar::Green, Bar::Blue})
-        EXPECT_EQ(adjuster.value(bar), 0);
-    EXPECT_EQ(adjuster.working(0), (ColourAdjuster::Channels{40, 50, 60}));
-    EXPECT_EQ(adjuster.preview().at(0, 0), rgb(40, 50, 60));
-    EXPECT_EQ(adjuster.preview().at(5, 5), icon::kWhite); // the marker saturates to white
-    // The bars' previous values are 0 again: setting a bar to 0 makes no step, 5 makes one.
+    EXPECT_EQ(adjuster.value(Bar::Brightness), 0);
+    EXPECT_EQ(adjuster.working(2), (ColourAdjuster::Channels{40, 50, 60}));
+    EXPECT_EQ(adjuster.preview().at(0, 0), icon::kWhite);
     adjuster.change(Bar::Red, 0);
-    EXPECT_EQ(adjuster.working(0).red, 40);
+    EXPECT_EQ(adjuster.working(2).red, 40);
     adjuster.change(Bar::Red, 5);
-    EXPECT_EQ(adjuster.working(0).red, 45);
-    EXPECT_EQ(ColourAdjuster::label(-15), "-15");
+    EXPECT_EQ(adjuster.working(2).red, 45);
 }

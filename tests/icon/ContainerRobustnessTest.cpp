@@ -50,28 +50,19 @@ const char* const kSamples[] = {
 
 } // namespace
 
-TEST(ContainerRobustness, TruncatedCopiesAreReadOrRefusedCleanly) {
-    for (const char* path : kSamples) {
-        SCOPED_TRACE(path);
-        const std::vector<std::uint8_t> bytes = fileBytes(testData(path));
-        const std::size_t step = std::max<std::size_t>(1, bytes.size() / 97);
-        for (std::size_t cut = 0; cut < bytes.size(); cut += step) {
-            expectSane(std::span(bytes).first(cut));
-        }
-    }
-}
-
-TEST(ContainerRobustness, CorruptedCopiesAreReadOrRefusedCleanly) {
+TEST(ContainerRobustness, TruncatedAndCorruptedCopiesAreReadOrRefusedCleanly) {
     std::mt19937 random(20260101);
     for (const char* path : kSamples) {
         SCOPED_TRACE(path);
         const std::vector<std::uint8_t> original = fileBytes(testData(path));
+        const std::size_t step = std::max<std::size_t>(1, original.size() / 97);
+        for (std::size_t cut = 0; cut < original.size(); cut += step)
+            expectSane(std::span(original).first(cut));
         // Damage the headers and tables most: they sit in the first few kilobytes.
         const std::size_t hot = std::min<std::size_t>(original.size(), 4096);
         for (int round = 0; round < 300; ++round) {
             std::vector<std::uint8_t> bytes = original;
-            const int flips = 1 + round % 8;
-            for (int f = 0; f < flips; ++f) {
+            for (int f = 0; f <= round % 8; ++f) {
                 const std::size_t at = random() % (round % 3 == 0 ? bytes.size() : hot);
                 bytes[at] = static_cast<std::uint8_t>(round % 2 ? random() : bytes[at] ^ 0xFF);
             }
@@ -81,12 +72,7 @@ TEST(ContainerRobustness, CorruptedCopiesAreReadOrRefusedCleanly) {
 }
 
 TEST(ContainerRobustness, AbsurdCountsAreBoundedByTheFile) {
-    // A group claiming 65535 entries in a few bytes, and an NE type claiming 65535 resources.
-    std::vector<std::uint8_t> pidgin = fileBytes(testData("pe/penet_pidgin.exe"));
-    const auto icons = readPeIcons(pidgin);
-    ASSERT_TRUE(icons && !icons->empty());
-    expectSane(pidgin);
-
+    // An NE type claiming 65535 resources, and an alignment shift no file can have.
     std::vector<std::uint8_t> icl = fileBytes(testData("icl/psc_robanderson_test.icl"));
     const std::size_t ne = ByteReader(icl).u32(0x3C);
     const std::size_t table = ne + ByteReader(icl).u16(ne + 0x24);
@@ -95,7 +81,7 @@ TEST(ContainerRobustness, AbsurdCountsAreBoundedByTheFile) {
     EXPECT_FALSE(readNeIcons(icl).has_value());
 
     std::vector<std::uint8_t> shifted = fileBytes(testData("icl/psc_robanderson_test.icl"));
-    shifted[table] = 40; // an alignment shift no file can have
+    shifted[table] = 40;
     EXPECT_FALSE(readNeIcons(shifted).has_value());
 }
 

@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QImage>
 
+#include <cstdlib>
+
 namespace icontest {
 
 namespace {
@@ -19,7 +21,7 @@ void put32(std::vector<std::uint8_t>& out, std::uint32_t v) {
 
 } // namespace
 
-std::vector<std::uint8_t> dib(const DibSpec& s) {
+std::vector<std::uint8_t> dib(const BitmapPlan& s) {
     std::vector<std::uint8_t> out;
     put32(out, 40);
     put32(out, static_cast<std::uint32_t>(s.headerWidth >= 0 ? s.headerWidth : s.width));
@@ -99,7 +101,7 @@ std::vector<std::uint8_t> icoFile(const std::vector<Entry>& entries, int type) {
     return out;
 }
 
-std::vector<std::uint8_t> icoFile(const DibSpec& bitmap) {
+std::vector<std::uint8_t> icoFile(const BitmapPlan& bitmap) {
     return icoFile({Entry{bitmap.width, bitmap.height, bitmap.bits, dib(bitmap)}});
 }
 
@@ -114,6 +116,30 @@ std::vector<std::uint8_t> png(int width, int height,
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
     return {data.begin(), data.end()};
+}
+
+int mismatches(const icon::IconBitmap& decoded, const QImage& reference, std::string& first,
+               int tolerance) {
+    if (decoded.width() != reference.width() || decoded.height() != reference.height()) {
+        first = "size differs";
+        return decoded.width() * decoded.height() + 1;
+    }
+    const QImage ref = reference.convertToFormat(QImage::Format_ARGB32);
+    int count = 0;
+    for (int y = 0; y < ref.height(); ++y)
+        for (int x = 0; x < ref.width(); ++x) {
+            const QRgb p = ref.pixel(x, y);
+            const bool refTransparent = qAlpha(p) < 128;
+            const bool transparent = icon::isTransparentMask(decoded.mask.at(x, y));
+            const icon::Colour c = decoded.image.at(x, y);
+            const bool close = std::abs(icon::redOf(c) - qRed(p)) <= tolerance &&
+                               std::abs(icon::greenOf(c) - qGreen(p)) <= tolerance &&
+                               std::abs(icon::blueOf(c) - qBlue(p)) <= tolerance;
+            const bool same = refTransparent == transparent && (transparent || close);
+            if (!same && count++ == 0)
+                first = "first at (" + std::to_string(x) + "," + std::to_string(y) + ")";
+        }
+    return count;
 }
 
 } // namespace icontest

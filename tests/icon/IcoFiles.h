@@ -1,15 +1,19 @@
 #pragma once
 
 #include "icon/Colour.h"
+#include "icon/IconBitmap.h"
+
+#include <QImage>
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace icontest {
 
 // A bitmap of an icon image, written the way icon files hold them, for building test files.
-struct DibSpec {
+struct BitmapPlan {
     int width = 4;
     int height = 4;
     int bits = 24;
@@ -30,7 +34,7 @@ struct DibSpec {
     int headerHeight = -1;
 };
 
-std::vector<std::uint8_t> dib(const DibSpec& bitmap);
+std::vector<std::uint8_t> dib(const BitmapPlan& bitmap);
 
 struct Entry {
     int width = 0; // as the directory says (256 is written 0)
@@ -42,10 +46,16 @@ struct Entry {
 // An ICO (type 1) or CUR (type 2) file holding the entries in order.
 std::vector<std::uint8_t> icoFile(const std::vector<Entry>& entries, int type = 1);
 // A one-image icon file of the bitmap, the directory telling the truth.
-std::vector<std::uint8_t> icoFile(const DibSpec& bitmap);
+std::vector<std::uint8_t> icoFile(const BitmapPlan& bitmap);
 
 // A PNG file of width×height with the colour and alpha given per pixel (0xAARRGGBB).
 std::vector<std::uint8_t> png(int width, int height,
                               const std::function<std::uint32_t(int, int)>& argb);
+
+// Mismatching pixels between a decoded image and a reference picture: transparency must agree
+// (alpha below 128 is transparent) and opaque pixels must have the same colour, each channel
+// within `tolerance`. `first` tells where the first one is.
+int mismatches(const icon::IconBitmap& decoded, const QImage& reference, std::string& first,
+               int tolerance = 0);
 
 } // namespace icontest

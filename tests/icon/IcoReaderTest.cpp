@@ -40,8 +40,8 @@ std::uint32_t pixelFor(int bits, int x, int y) {
     }
 }
 
-DibSpec patterned(int bits, int width, int height) {
-    DibSpec s;
+BitmapPlan patterned(int bits, int width, int height) {
+    BitmapPlan s;
     s.width = width;
     s.height = height;
     s.bits = bits;
@@ -61,7 +61,7 @@ DibSpec patterned(int bits, int width, int height) {
     return s;
 }
 
-void expectPattern(const IconBitmap& b, int bits, const DibSpec& s) {
+void expectPattern(const IconBitmap& b, int bits, const BitmapPlan& s) {
     ASSERT_EQ(b.width(), s.width);
     ASSERT_EQ(b.height(), s.height);
     for (int y = 0; y < s.height; ++y)
@@ -88,9 +88,9 @@ TEST(IcoReader, EveryBitDepthDecodesColoursAndMask) {
     for (int bits : {1, 4, 8, 16, 24, 32})
         for (auto [width, height] : {std::pair{5, 3}, std::pair{33, 2}, std::pair{1, 1}}) {
             SCOPED_TRACE(std::to_string(bits) + " bits, " + std::to_string(width) + " wide");
-            const DibSpec s = patterned(bits, width, height);
+            const BitmapPlan s = patterned(bits, width, height);
             expectPattern(decodeOnly(icoFile(s)), bits, s);
-            DibSpec topDown = s;
+            BitmapPlan topDown = s;
             topDown.topDown = true;
             expectPattern(decodeOnly(icoFile(topDown)), bits, topDown);
         }
@@ -110,7 +110,7 @@ TEST(IcoReader, BitFieldsGiveTheChannels) {
              Case{32, {0x000000FF, 0x0000FF00, 0x00FF0000}, 0x00332211, rgb(0x11, 0x22, 0x33)},
              Case{32, {0xFFC00000, 0x003FF000, 0x00000FFC}, 0xFFC00000, rgb(255, 0, 0)},
          }) {
-        DibSpec s;
+        BitmapPlan s;
         s.width = 2;
         s.height = 1;
         s.bits = k.bits;
@@ -127,7 +127,7 @@ TEST(IcoReader, BitFieldsGiveTheChannels) {
 
 TEST(IcoReader, AlphaDecidesUnlessEveryAlphaByteIsZero) {
     // Alpha 0, 127, 128, 255 along a row, and an AND mask that says the opposite.
-    DibSpec s;
+    BitmapPlan s;
     s.width = 4;
     s.height = 1;
     s.bits = 32;
@@ -177,7 +177,7 @@ TEST(IcoReader, TheImageHeaderWinsOverTheDirectory) {
     EXPECT_EQ(d->images[0].directoryBitCount, 8);
 
     // A header size of 0 falls back on the directory, where 0 means 256.
-    DibSpec zero = patterned(8, 256, 3);
+    BitmapPlan zero = patterned(8, 256, 3);
     zero.headerWidth = 0;
     const std::vector<std::uint8_t> file = icoFile({Entry{0, 3, 8, dib(zero)}});
     d = readIcoDirectory(file);
@@ -220,7 +220,7 @@ TEST(IcoReader, ChoosesExactSizeDeepestThenNearest) {
 TEST(IcoReader, OtherSizesAreStretchedByDroppingOrRepeatingPixels) {
     // Every pixel of the source a different colour, so each destination shows which it took.
     for (int side : {16, 48}) {
-        DibSpec s;
+        BitmapPlan s;
         s.width = s.height = side;
         s.pixel = [](int x, int y) {
             return static_cast<std::uint32_t>(x + 256 * y);
@@ -256,22 +256,11 @@ TEST(IcoReader, PngImagesDecodeWithAlphaAsTransparency) {
     // file makes the image unreadable, without libpng reserving memory for it.
     for (std::uint32_t length : {4u, 0x7FFFFFF0u}) {
         std::vector<std::uint8_t> withText = image;
-        const std::vector<std::uint8_t> chunk{static_cast<std::uint8_t>(length >> 24),
-                                              static_cast<std::uint8_t>(length >> 16),
-                                              static_cast<std::uint8_t>(length >> 8),
-                                              static_cast<std::uint8_t>(length),
-                                              't',
-                                              'E',
-                                              'X',
-                                              't',
-                                              'a',
-                                              'b',
-                                              'c',
-                                              'd',
-                                              0,
-                                              0,
-                                              0,
-                                              0};
+        std::vector<std::uint8_t> chunk;
+        for (int shift : {24, 16, 8, 0})
+            chunk.push_back(static_cast<std::uint8_t>(length >> shift));
+        for (char c : std::string("tEXtabcd\0\0\0\0", 12))
+            chunk.push_back(static_cast<std::uint8_t>(c));
         withText.insert(withText.begin() + 33, chunk.begin(), chunk.end());
         const std::optional<IconPlanes> planes =
             decodeIconPlanes(icoFile({Entry{3, 2, 32, withText}}));
@@ -282,7 +271,7 @@ TEST(IcoReader, PngImagesDecodeWithAlphaAsTransparency) {
 TEST(IcoReader, AnUndecodableFirstChoiceFallsBackOnTheNext) {
     std::vector<std::uint8_t> broken = png(32, 32, [](int, int) { return 0xFF0000FFu; });
     broken.resize(40); // the header survives, the pixels do not
-    DibSpec small = patterned(24, 16, 16);
+    BitmapPlan small = patterned(24, 16, 16);
     const std::vector<std::uint8_t> file =
         icoFile({Entry{32, 32, 32, broken}, Entry{16, 16, 24, dib(small)}});
     const std::optional<IcoDirectory> d = readIcoDirectory(file);
@@ -311,27 +300,24 @@ TEST(IcoReader, AnUndecodableFirstChoiceFallsBackOnTheNext) {
 }
 
 TEST(IcoReader, RefusesWhatIsOutsideTheLimits) {
-    std::vector<std::vector<std::uint8_t>> refused;
-    DibSpec wide = patterned(1, 4, 4);
-    wide.headerWidth = 257;
-    refused.push_back(icoFile({Entry{4, 4, 1, dib(wide)}}));
-    DibSpec bigTable = patterned(8, 4, 4);
-    bigTable.coloursUsed = 257;
-    refused.push_back(icoFile(bigTable));
-    DibSpec rle = patterned(8, 4, 4);
-    rle.compression = 1;
-    refused.push_back(icoFile(rle));
-    DibSpec depth = patterned(24, 4, 4);
-    depth.bits = 2;
-    refused.push_back(icoFile({Entry{4, 4, 2, dib(depth)}}));
+    const auto changed = [](int bits, auto change) {
+        BitmapPlan s = patterned(bits, 4, 4);
+        change(s);
+        return icoFile({Entry{4, 4, s.bits, dib(s)}});
+    };
+    std::vector<std::vector<std::uint8_t>> refused{
+        changed(1, [](BitmapPlan& s) { s.headerWidth = 257; }),
+        changed(8, [](BitmapPlan& s) { s.coloursUsed = 257; }),
+        changed(8, [](BitmapPlan& s) { s.compression = 1; }),
+        changed(24, [](BitmapPlan& s) { s.bits = 2; }),
+    };
     std::vector<std::uint8_t> cutColours = icoFile(patterned(24, 4, 4));
     cutColours.resize(6 + 16 + 40 + 4 * 12 - 1);
     refused.push_back(cutColours);
     refused.push_back(icoFile({Entry{0, 0, 32, png(1025, 1, [](int, int) { return 0u; })}}));
-    std::vector<std::uint8_t> extraEntry = icoFile(patterned(24, 4, 4));
-    extraEntry[4] = 200; // 200 entries cannot fit in the file
-    refused.push_back(extraEntry);
-    for (auto [offset, value] : {std::pair{0, 1}, std::pair{2, 3}, std::pair{2, 0}}) {
+    // A bad reserved word or type, or 200 entries that cannot fit in the file.
+    for (auto [offset, value] :
+         {std::pair{0, 1}, std::pair{2, 3}, std::pair{2, 0}, std::pair{4, 200}}) {
         std::vector<std::uint8_t> header = icoFile(patterned(24, 4, 4));
         header[static_cast<std::size_t>(offset)] = static_cast<std::uint8_t>(value);
         refused.push_back(header);

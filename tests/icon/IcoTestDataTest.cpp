@@ -2,6 +2,7 @@
 // matches, and broken files (shipped, or cut and damaged here) are refused or decoded cleanly.
 #include "icon/IcoReader.h"
 
+#include "tests/icon/IcoFiles.h"
 #include "tests/support/TestData.h"
 
 #include <QFileInfo>
@@ -16,6 +17,7 @@
 #include <set>
 
 using namespace icon;
+using icontest::mismatches;
 using testsupport::fileBytes;
 using testsupport::testData;
 using testsupport::testFiles;
@@ -24,32 +26,6 @@ namespace {
 
 QString nameOf(const QString& path) {
     return QFileInfo(path).fileName();
-}
-
-// Mismatching pixels between a decoded image and a reference PNG: transparency must agree
-// (alpha below 128 is transparent) and opaque pixels must have the same colour.
-int mismatches(const IconBitmap& decoded, const QImage& reference, std::string& first,
-               int tolerance) {
-    if (decoded.width() != reference.width() || decoded.height() != reference.height()) {
-        first = "size differs";
-        return decoded.width() * decoded.height() + 1;
-    }
-    const QImage ref = reference.convertToFormat(QImage::Format_ARGB32);
-    int count = 0;
-    for (int y = 0; y < ref.height(); ++y)
-        for (int x = 0; x < ref.width(); ++x) {
-            const QRgb p = ref.pixel(x, y);
-            const bool refTransparent = qAlpha(p) < 128;
-            const bool transparent = isTransparentMask(decoded.mask.at(x, y));
-            const Colour c = decoded.image.at(x, y);
-            const bool close = std::abs(redOf(c) - qRed(p)) <= tolerance &&
-                               std::abs(greenOf(c) - qGreen(p)) <= tolerance &&
-                               std::abs(blueOf(c) - qBlue(p)) <= tolerance;
-            const bool same = refTransparent == transparent && (transparent || close);
-            if (!same && count++ == 0)
-                first = "first at (" + std::to_string(x) + "," + std::to_string(y) + ")";
-        }
-    return count;
 }
 
 // Files that hold icons, by base name without extension.
@@ -96,54 +72,26 @@ TEST(IcoTestData, EveryValidIconDecodesAtBothBrowserSizes) {
     }
 }
 
-TEST(IcoTestData, CursorsDecodeExceptTheBrokenOnes) {
-    // A cursor with no image, and one whose colour data stops at a third of the bitmap.
-    const std::set<QString> refused{"pillow_no_cursors_INVALID.cur", "gtk_win32_rc_cursor3a.cur"};
-    for (const QString& path : testFiles("cur")) {
-        SCOPED_TRACE(nameOf(path).toStdString());
-        const std::optional<IconPlanes> planes = decodeIconPlanes(fileBytes(path));
-        EXPECT_EQ(planes.has_value(), !refused.contains(nameOf(path)));
-    }
-}
-
-TEST(IcoTestData, InvalidIconsAreRefusedOrDecodedCleanly) {
-    // Damaged beyond use: not an icon directory, no entry, entries past the end of the file,
-    // sizes past the limits, compressed or unknown pixel formats.
-    const std::set<QString> refused{"decodeico_favicon-actually-a-png.ico",
-                                    "decodeico_invisionapp-actually-a-png.ico",
-                                    "gdkpixbuf_fail_bug778204.ico",
-                                    "gdkpixbuf_fail_bug779012.ico",
-                                    "gdkpixbuf_fail_invalid.1.ico",
-                                    "gdkpixbuf_fail_invalid.3.ico",
-                                    "gdkpixbuf_randmod_bad-header.ico",
-                                    "gdkpixbuf_randmod_bug776040.ico",
-                                    "gdkpixbuf_randmod_crash.ico",
-                                    "gdkpixbuf_randmod_invalid.2.ico",
-                                    "imagers_crash-981fee302fe0fc543ee48292cc3d6ace7e97e633.ico",
-                                    "imagers_oom-0d0085eb7f66ea55d9119206235cd29e089b9140.ico",
-                                    "imagers_oom-ff076e7064c13ec1f8e2c5bbbfb7a77a08db2361.ico",
-                                    "moz_invalid-bpp.ico",
-                                    "moz_invalid-compression-RLE4.ico",
-                                    "moz_invalid-compression-RLE8.ico",
-                                    "moz_invalid-compression.ico",
-                                    "pillow_decompression_bomb.ico",
-                                    "pillow_no_icons.ico",
-                                    "pillow_win1_ico1both.ico",
-                                    "pillow_win1_ico1device_dependent.ico",
-                                    "pillow_win1_ico1device_independent.ico",
-                                    "qt_35floppy_first8bytes_ff.ico"};
-    // Odd but readable: a byte count that lies, a 1×1 image with no room for its mask, a mask
-    // cut short, a directory that disagrees with the bitmap.
-    const std::set<QString> decoded{
-        "imagers_Bad_smile-incorrect-image-length.ico", "imagers_bmp-biHeight=1.ico",
-        "imagers_truncated_mask_32bpp.ico", "pillow_hopper_unexpected.ico"};
-    const QStringList files = testFiles("ico/invalid");
-    EXPECT_EQ(static_cast<std::size_t>(files.size()), refused.size() + decoded.size());
-    for (const QString& path : files) {
-        SCOPED_TRACE(nameOf(path).toStdString());
-        const std::optional<IconPlanes> planes = decodeIconPlanes(fileBytes(path));
-        EXPECT_EQ(planes.has_value(), decoded.contains(nameOf(path)));
-    }
+TEST(IcoTestData, BrokenIconsAndCursorsAreRefusedOrDecodedCleanly) {
+    // Of the damaged icons, these are odd but readable: a byte count that lies, a 1×1 image with
+    // no room for its mask, a mask cut short, a directory that disagrees with the bitmap. The
+    // others are damaged beyond use (not an icon directory, no entry, entries past the end, sizes
+    // past the limits, compressed or unknown pixel formats). Of the cursors, one has no image and
+    // one's colour data stops at a third of the bitmap.
+    const std::set<QString> odd{"imagers_Bad_smile-incorrect-image-length.ico",
+                                "imagers_bmp-biHeight=1.ico",
+                                "imagers_truncated_mask_32bpp.ico",
+                                "pillow_hopper_unexpected.ico",
+                                "pillow_no_cursors_INVALID.cur",
+                                "gtk_win32_rc_cursor3a.cur"};
+    EXPECT_EQ(testFiles("ico/invalid").size(), 27);
+    for (const char* folder : {"ico/invalid", "cur"})
+        for (const QString& path : testFiles(folder)) {
+            SCOPED_TRACE(nameOf(path).toStdString());
+            const bool valid = folder[0] == 'c';
+            EXPECT_EQ(decodeIconPlanes(fileBytes(path)).has_value(),
+                      valid != odd.contains(nameOf(path)));
+        }
     // A PNG file named .ico is no icon, but the validity test still accepts it as a picture.
     EXPECT_TRUE(isLoadablePicture(testData("ico/invalid/decodeico_favicon-actually-a-png.ico")));
     EXPECT_FALSE(isLoadablePicture(testData("ico/invalid/qt_35floppy_first8bytes_ff.ico")));

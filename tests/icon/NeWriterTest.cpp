@@ -2,6 +2,7 @@
 #include "icon/ByteReader.h"
 #include "icon/IcoAssembly.h"
 #include "icon/NeReader.h"
+#include "tests/icon/IcoFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -11,52 +12,18 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-void put16(Bytes& out, std::uint32_t v) {
-    out.push_back(static_cast<std::uint8_t>(v));
-    out.push_back(static_cast<std::uint8_t>(v >> 8));
-}
-void put32(Bytes& out, std::uint32_t v) {
-    put16(out, v & 0xFFFF);
-    put16(out, v >> 16);
-}
-
 // An ICO file of square 24-bit images of the given sides, each filled with its own colour.
 Bytes icoFile(std::initializer_list<int> sides) {
-    Bytes out;
-    put16(out, 0);
-    put16(out, 1);
-    put16(out, static_cast<std::uint32_t>(sides.size()));
-    std::vector<Bytes> images;
+    std::vector<icontest::Entry> entries;
     for (int side : sides) {
-        Bytes image;
-        const std::uint32_t row = (static_cast<std::uint32_t>(side) * 3 + 3) / 4 * 4;
-        const std::uint32_t maskRow = (static_cast<std::uint32_t>(side) + 31) / 32 * 4;
-        for (std::uint32_t v :
-             {40u, static_cast<std::uint32_t>(side), static_cast<std::uint32_t>(2 * side)})
-            put32(image, v);
-        put16(image, 1);
-        put16(image, 24);
-        for (int i = 0; i < 6; ++i)
-            put32(image, 0);
-        image.resize(image.size() + row * side, static_cast<std::uint8_t>(side));
-        image.resize(image.size() + maskRow * side, 0);
-        images.push_back(image);
+        icontest::BitmapPlan s;
+        s.width = s.height = side;
+        s.pixel = [side](int, int) {
+            return static_cast<std::uint32_t>(side);
+        };
+        entries.push_back({side, side, 24, icontest::dib(s)});
     }
-    std::uint32_t offset = 6 + 16 * static_cast<std::uint32_t>(sides.size());
-    for (const Bytes& image : images) {
-        const int side = static_cast<int>(ByteReader(image).u32(4));
-        out.push_back(static_cast<std::uint8_t>(side));
-        out.push_back(static_cast<std::uint8_t>(side));
-        put16(out, 0);
-        put16(out, 1);
-        put16(out, 24);
-        put32(out, static_cast<std::uint32_t>(image.size()));
-        put32(out, offset);
-        offset += static_cast<std::uint32_t>(image.size());
-    }
-    for (const Bytes& image : images)
-        out.insert(out.end(), image.begin(), image.end());
-    return out;
+    return icontest::icoFile(entries);
 }
 
 } // namespace
