@@ -4,6 +4,7 @@
 #include "icon/IcoReader.h"
 #include "icon/IcoWriter.h"
 
+#include "tests/cli/CliRun.h"
 #include "tests/support/TestData.h"
 
 #include <QFile>
@@ -14,29 +15,13 @@
 #include <gtest/gtest.h>
 
 using namespace icon;
+using clitest::bytesOf;
+using clitest::Outcome;
+using clitest::run;
 using testsupport::fileBytes;
 using testsupport::testData;
 
 namespace {
-
-struct Outcome {
-    int code = -1;
-    QString out;
-    QString err;
-};
-
-Outcome run(const QStringList& args) {
-    QProcess process;
-    process.start(QStringLiteral(ORVANNE_CLI), args);
-    process.waitForFinished(30000);
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-std::vector<std::uint8_t> bytesOf(const QString& path) {
-    return readFileBytes(path).value_or(std::vector<std::uint8_t>{});
-}
 
 const QString kWorld = testData("ico/valid/qt_WORLD.ico");
 
