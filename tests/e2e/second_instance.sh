@@ -3,11 +3,10 @@
 # instance, and Enter (the default answer, "Non") ends it while the first one keeps running.
 set -euo pipefail
 program=$1 screenshots=$2
+source "$(dirname "$0")/common.sh"
 
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-mkdir -p "$work/home" "$work/run" "$work/empty"
-chmod 700 "$work/run"
+new_user
+mkdir -p "$work/empty"
 
 cat > "$work/session.sh" <<SESSION
 set -eu
