@@ -3,7 +3,6 @@
 #include "editor/Document.h"
 #include "editor/IconEditor.h"
 #include "editor/ui/DialogDocumentHost.h"
-#include "effects/UniformGenerator.h"
 
 #include <QWidget>
 
@@ -38,9 +37,8 @@ public:
     // "Oui"); it decides whether the display deserves the warning.
     using LoadNotice = std::function<void(QWidget& editor)>;
 
-    // The effect entries that open a dialog of their own. The window connects them to its
-    // effect dialogs as it is built; setDialogCommand() puts another command in an entry's
-    // place, and an empty one disables the entry.
+    // The effect entries that open a dialog of their own. They stay disabled until
+    // setDialogCommand() gives them a command; an empty one disables the entry again.
     enum class DialogEntry { AdjustColours, Gradient, Kaleidoscope };
 
     explicit FrmIcoEd(LoadNotice notice = {}, QWidget* parent = nullptr);
@@ -74,7 +72,6 @@ private:
     void buildTitleRow();
     void buildWorkArea();
     void buildPads();
-    void connectEffectDialogs();
     platform::GradientPanel* buildPad(const char* name, int x, int rows, int width);
     platform::GradientButton* addButton(QWidget* parent, const char* name, const QString& caption,
                                         const QString& help, const QRect& place);
@@ -122,8 +119,6 @@ private:
     std::array<platform::GradientButton*, 4> m_mirror{};
     std::array<platform::GradientButton*, 3> m_dialogEntries{};
     std::array<std::function<void()>, 3> m_dialogCommands;
-    // The kaleidoscope's dots, seeded from the clock once, as the window loads.
-    effects::StdUniformGenerator m_random;
     QTimer* m_timer1 = nullptr;
 };
 

@@ -4,9 +4,6 @@
 
 #include "editor/PadTexts.h"
 #include "editor/ui/CanvasView.h"
-#include "effects/ui/FrmColAdj.h"
-#include "effects/ui/FrmRndIcon.h"
-#include "effects/ui/FrmShades.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
@@ -140,7 +137,9 @@ void FrmIcoEd::buildPads() {
         m_mirror[static_cast<std::size_t>(i)] = entry;
         connect(entry, &QAbstractButton::clicked, this, [this, i] { runMirrorOption(i); });
     }
-    connectEffectDialogs();
+    // The effect dialogs are other windows: whoever composes the program puts them here.
+    for (std::size_t i = 0; i < m_dialogEntries.size(); ++i)
+        setDialogCommand(static_cast<DialogEntry>(i), {});
 
     // The pad buttons and their help buttons.
     const std::array<platform::GradientPanel*, 4> popUps{m_filePad, m_editPad, m_colourPad,
@@ -222,23 +221,6 @@ void FrmIcoEd::setDialogCommand(DialogEntry entry, std::function<void()> command
     const auto i = static_cast<std::size_t>(entry);
     m_dialogCommands[i] = std::move(command);
     m_dialogEntries[i]->setEnabled(static_cast<bool>(m_dialogCommands[i]));
-}
-
-void FrmIcoEd::connectEffectDialogs() {
-    // Each dialog lives for one use. The canvas is redrawn whatever the answer: the colour
-    // adjustment settles a floating picture before its dialog opens.
-    setDialogCommand(DialogEntry::AdjustColours, [this] {
-        effects::ui::FrmColAdj::run(m_engine, platform::dialogs(), this);
-        apply(kRedraw);
-    });
-    setDialogCommand(DialogEntry::Gradient, [this] {
-        effects::ui::FrmShades::run(m_engine, platform::dialogs(), this);
-        apply(kRedraw);
-    });
-    setDialogCommand(DialogEntry::Kaleidoscope, [this] {
-        effects::ui::FrmRndIcon::run(m_engine, platform::dialogs(), m_random, this);
-        apply(kRedraw);
-    });
 }
 
 void FrmIcoEd::runEditOption(int index) {

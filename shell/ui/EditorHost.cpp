@@ -1,6 +1,9 @@
 #include "shell/ui/EditorHost.h"
 
 #include "browser/ui/FenPrin.h"
+#include "effects/ui/FrmColAdj.h"
+#include "effects/ui/FrmRndIcon.h"
+#include "effects/ui/FrmShades.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/Services.h"
@@ -37,8 +40,28 @@ editor::ui::FrmIcoEd& EditorHost::editor() {
             [this](QWidget& window) { warnAboutDepth(window); });
         if (const QScreen* screen = QGuiApplication::primaryScreen())
             m_editor->move(screen->availableGeometry().center() - m_editor->rect().center());
+        connectEffectDialogs(*m_editor);
     }
     return *m_editor;
+}
+
+void EditorHost::connectEffectDialogs(editor::ui::FrmIcoEd& window) {
+    using Entry = editor::ui::FrmIcoEd::DialogEntry;
+    // Each dialog lives for one use. The canvas is redrawn whatever the answer: the colour
+    // adjustment settles a floating picture before its dialog opens.
+    auto* editor = &window;
+    editor->setDialogCommand(Entry::AdjustColours, [editor] {
+        effects::ui::FrmColAdj::run(editor->engine(), platform::dialogs(), editor);
+        editor->apply(editor::kRedraw);
+    });
+    editor->setDialogCommand(Entry::Gradient, [editor] {
+        effects::ui::FrmShades::run(editor->engine(), platform::dialogs(), editor);
+        editor->apply(editor::kRedraw);
+    });
+    editor->setDialogCommand(Entry::Kaleidoscope, [this, editor] {
+        effects::ui::FrmRndIcon::run(editor->engine(), platform::dialogs(), m_random, editor);
+        editor->apply(editor::kRedraw);
+    });
 }
 
 void EditorHost::warnAboutDepth(QWidget& editor) {

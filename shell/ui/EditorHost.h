@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/ui/FrmIcoEd.h"
+#include "effects/UniformGenerator.h"
 
 #include <QObject>
 
@@ -40,11 +41,14 @@ public:
 
 private:
     void warnAboutDepth(QWidget& editor);
+    void connectEffectDialogs(editor::ui::FrmIcoEd& editor);
     QString currentFolder() const;
 
     std::function<int()> m_depth;
     browser::ui::FenPrin* m_main = nullptr;
     std::unique_ptr<editor::ui::FrmIcoEd> m_editor;
+    // The kaleidoscope's dots, seeded from the clock once for the run.
+    effects::StdUniformGenerator m_random;
 };
 
 } // namespace shell::ui

@@ -275,13 +275,11 @@ TEST_F(FrmIcoEdTest, TheColourAndEffectPadsChangeTheIconAndEnableWhatTheyCan) {
     choose("CmdCouleur", "CmdColorOpts", 3); // already 16 million colours
     EXPECT_EQ(m_sound.clicks, 1);
 
-    // What waits for other windows stays disabled; the effect dialogs are there.
+    // What waits for other windows stays disabled until it is given a command.
     click("CmdEdition");
     for (int i = 0; i < 11; ++i)
         EXPECT_EQ(entry("CmdEditOpts", i)->isEnabled(), i != 4 && i != 7 && i != 10) << i;
-    EXPECT_TRUE(entry("CmdColorOpts", 2)->isEnabled());
-    EXPECT_TRUE(entry("CmdEffetsOpts", 1)->isEnabled());
-    EXPECT_TRUE(entry("CmdEffetsOpts", 2)->isEnabled());
+    EXPECT_FALSE(entry("CmdEffetsOpts", 1)->isEnabled());
     bool called = false;
     m_window->setDialogCommand(FrmIcoEd::DialogEntry::Gradient, [&] { called = true; });
     choose("CmdEffets", "CmdEffetsOpts", 1);
@@ -295,55 +293,6 @@ TEST_F(FrmIcoEdTest, TheColourAndEffectPadsChangeTheIconAndEnableWhatTheyCan) {
     click("CmdEffets");
     for (int i = 0; i < 4; ++i)
         EXPECT_EQ(entry("CmdMirrorOpts", i)->isEnabled(), i >= 2) << i;
-}
-
-TEST_F(FrmIcoEdTest, TheEffectDialogsOpenFromTheirEntriesAndChangeTheIconOnOk) {
-    chooseTool(editor::Tool::Pencil);
-    drag({{15, 15}}); // a black pixel at (1, 1) on a transparent icon
-    const std::size_t steps = m_window->engine().history().undoCount();
-    auto spinUp = [](QDialog& dialog, const char* name) {
-        QTest::mouseClick(dialog.findChild<QWidget*>(QString::fromLatin1(name)), Qt::LeftButton, {},
-                          QPoint(8, 3));
-    };
-    const struct {
-        const char* pad;
-        const char* list;
-        int index;
-        const char* dialog;
-        std::function<void(QDialog&)> use;
-    } uses[] = {
-        {"CmdCouleur", "CmdColorOpts", 2, "FrmColAdj",
-         [&](QDialog& d) {
-             spinUp(d, "VsbBrightness");
-             click(d.findChild<QWidget*>(QStringLiteral("CmdOK")));
-         }},
-        {"CmdEffets", "CmdEffetsOpts", 2, "FrmRndIcon",
-         [&](QDialog& d) {
-             click(d.findChild<QWidget*>(QStringLiteral("CmdOK")));
-         }},
-        {"CmdEffets", "CmdEffetsOpts", 1, "FrmShades",
-         [&](QDialog& d) {
-             click(d.findChild<QWidget*>(QStringLiteral("CmdCancel")));
-         }},
-    };
-    for (const auto& use : uses) {
-        m_dialogs.onModal([&](QDialog& d) {
-            EXPECT_EQ(d.objectName(), QString::fromLatin1(use.dialog));
-            EXPECT_EQ(d.parentWidget(), m_window.get());
-            use.use(d);
-        });
-        choose(use.pad, use.list, use.index);
-        EXPECT_EQ(m_dialogs.remaining(), 0) << use.dialog;
-    }
-    // Brightness +5 on the black pixel; the plain kaleidoscope preview under the rest; the
-    // cancelled gradient changes nothing.
-    EXPECT_EQ(planes().image.at(1, 1), icon::rgb(5, 5, 5));
-    EXPECT_EQ(planes().image.at(20, 20),
-              shell::appState().preferences.colours[shell::SchemeColour::Viewing]);
-    EXPECT_EQ(planes().mask, icon::Plane(icon::kBlack));
-    EXPECT_EQ(m_window->engine().history().undoCount(), steps + 2);
-    const QImage shown = canvas()->grab().toImage();
-    EXPECT_EQ(QColor(shown.pixel(15, 15)), QColor(5, 5, 5));
 }
 
 TEST_F(FrmIcoEdTest, TrueColoursRedefineTheCellThroughTheColourDialog) {

@@ -125,4 +125,39 @@ TEST_F(EditorHostTest, AvertisComesAtTheEditorsLoadOnADisplayOfFewerColours) {
     }
 }
 
+TEST_F(EditorHostTest, TheEffectEntriesOpenTheirDialogsOverTheEditor) {
+    shell::ui::EditorHost host([] { return 24; });
+    host.bringUp();
+    editor::ui::FrmIcoEd& editor = host.editor();
+    const std::size_t steps = editor.engine().history().undoCount();
+    const struct {
+        const char* pad;
+        const char* list;
+        int index;
+        const char* dialog;
+        const char* answer;
+    } uses[] = {
+        {"CmdCouleur", "CmdColorOpts", 2, "FrmColAdj", "CmdAnnul"},
+        {"CmdEffets", "CmdEffetsOpts", 1, "FrmShades", "CmdCancel"},
+        {"CmdEffets", "CmdEffetsOpts", 2, "FrmRndIcon", "CmdOK"},
+    };
+    for (const auto& use : uses) {
+        m_dialogs.onModal([&](QDialog& d) {
+            EXPECT_EQ(d.objectName(), QString::fromLatin1(use.dialog));
+            EXPECT_EQ(d.parentWidget(), &editor);
+            QTest::mouseClick(d.findChild<QWidget*>(QString::fromLatin1(use.answer)),
+                              Qt::LeftButton);
+        });
+        QTest::mouseClick(editor.findChild<QWidget*>(QString::fromLatin1(use.pad)), Qt::LeftButton);
+        for (auto* b : editor.findChildren<QWidget*>(QString::fromLatin1(use.list)))
+            if (b->property("index").toInt() == use.index)
+                QTest::mouseClick(b, Qt::LeftButton);
+        EXPECT_EQ(m_dialogs.remaining(), 0) << use.dialog;
+    }
+    // Only the confirmed kaleidoscope became a step of the history.
+    EXPECT_EQ(editor.engine().history().undoCount(), steps + 1);
+    editor.engine().setModified(false);
+    editor.close();
+}
+
 } // namespace
