@@ -257,10 +257,9 @@ void IconEditor::updateRubberBand() {
 }
 
 Events IconEditor::selectTool(Tool tool) {
-    // Choosing the current tool again keeps the previous one, so that the picker always has
-    // another tool to hand back to.
-    if (tool != m_tool)
-        m_previousTool = m_tool;
+    // The pad always remembers the tool it leaves, even when the same one is chosen again: the
+    // picker chosen twice then hands back to itself.
+    m_previousTool = m_tool;
     m_tool = tool;
     return kToolChanged;
 }

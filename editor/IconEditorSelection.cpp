@@ -118,9 +118,8 @@ QImage IconEditor::CopySelection() {
 }
 
 IconEditor::CutResult IconEditor::Cut() {
-    // Without a selection there is nothing to cut: nothing is copied and nothing recorded.
-    if (m_selection == SelectionState::None)
-        return {};
+    // Without a selection nothing is copied, but the command still records its step, as
+    // deleting the selection does.
     CutResult result;
     result.picture = CopySelection();
     result.events = DeleteSelection();

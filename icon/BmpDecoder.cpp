@@ -253,15 +253,20 @@ std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int f
             reader.sliceClamped(maskStart + source * l.maskRowBytes, l.maskRowBytes);
         for (std::size_t x = 0; x < outWidth; ++x) {
             const std::size_t sx = x * width / outWidth;
-            bool transparent;
-            if (alphaDecides)
-                transparent = alphas[sx] < alphaHalf;
-            else
-                transparent = sx / 8 < maskRow.size() && ((maskRow[sx / 8] >> (7 - sx % 8)) & 1u);
-            if (!transparent) {
-                out.image.set(static_cast<int>(x), static_cast<int>(y), colours[sx]);
-                out.mask.set(static_cast<int>(x), static_cast<int>(y), kBlack);
+            const int ox = static_cast<int>(x), oy = static_cast<int>(y);
+            if (alphaDecides) {
+                // The mask is made from the alpha: what is see-through has no colour of its own.
+                if (alphas[sx] >= alphaHalf) {
+                    out.image.set(ox, oy, colours[sx]);
+                    out.mask.set(ox, oy, kBlack);
+                }
+                continue;
             }
+            // With an AND mask the colour is the XOR image, under transparent pixels too: a
+            // pixel with a colour there inverts what lies behind the icon.
+            out.image.set(ox, oy, colours[sx]);
+            if (!(sx / 8 < maskRow.size() && ((maskRow[sx / 8] >> (7 - sx % 8)) & 1u)))
+                out.mask.set(ox, oy, kBlack);
         }
     }
     return out;

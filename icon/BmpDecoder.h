@@ -42,7 +42,8 @@ std::optional<DibLayout> readDibLayout(std::span<const std::uint8_t> dib, int fa
 // Decodes the bitmap of an icon image: colours at 1, 4, 8, 16, 24 or 32 bits and the 1-bit AND
 // mask. For a 32-bit image whose alpha bytes are not all zero, alpha decides (below 128 is
 // transparent) and the AND mask is ignored; otherwise the AND mask decides, and mask bytes missing
-// at the end of the data count as opaque. Transparent pixels come out black under a white mask.
+// at the end of the data count as opaque. Under the AND mask, transparent pixels keep the XOR
+// image's colour (a coloured one inverts the background); under alpha they come out black.
 // With an output size, the image comes out at that size, its pixels dropped or repeated (the
 // same as resample(), without decoding what would be dropped).
 std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int fallbackWidth,

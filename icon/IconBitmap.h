@@ -7,7 +7,8 @@
 namespace icon {
 
 // An icon image of any size, as decoded from a file: a colour frame and a mask frame of the
-// same size (mask white where transparent, black where opaque; colour black under white).
+// same size (mask white where transparent, black where opaque; under white the colour is the
+// file's XOR colour, black for most icons, anything for one that inverts its background).
 struct IconBitmap {
     Frame image;
     Frame mask;

@@ -76,9 +76,12 @@ TEST(Picker, TakesAnOpaqueColourAndGoesBackToThePreviousTool) {
     icon::IconPlanes icon;
     icon.paint(4, 4, rgb(1, 2, 3));
     e.loadIcon(icon);
+    e.selectTool(Tool::Picker);
+    e.selectTool(Tool::Picker); // chosen twice, the pad remembers the picker itself
+    click(e, 1, 5, 5);
+    EXPECT_EQ(e.tool(), Tool::Picker);
     e.selectTool(Tool::Line);
     e.selectTool(Tool::Picker);
-    e.selectTool(Tool::Picker); // chosen twice, it still hands back the tool before it
     const Events events = click(e, 2, 4, 4);
     EXPECT_EQ(events & editor::kColoursChanged, editor::kColoursChanged);
     EXPECT_EQ(e.buttonColour(1), rgb(1, 2, 3));

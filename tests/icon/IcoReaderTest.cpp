@@ -68,7 +68,9 @@ void expectPattern(const IconBitmap& b, int bits, const BitmapPlan& s) {
         for (int x = 0; x < s.width; ++x) {
             const bool transparent = s.transparent(x, y);
             EXPECT_EQ(b.mask.at(x, y), transparent ? kWhite : kBlack) << x << "," << y;
-            EXPECT_EQ(b.image.at(x, y), transparent ? kBlack : expectedColour(bits, x, y))
+            // The AND mask decides here (no alpha), so the colour is the XOR image's under
+            // transparent pixels too.
+            EXPECT_EQ(b.image.at(x, y), expectedColour(bits, x, y))
                 << bits << " bits at " << x << "," << y;
         }
 }
@@ -145,14 +147,16 @@ TEST(IcoReader, AlphaDecidesUnlessEveryAlphaByteIsZero) {
         EXPECT_EQ(b.mask.at(x, 0), transparent ? kWhite : kBlack) << x;
         EXPECT_EQ(b.image.at(x, 0), transparent ? kBlack : rgb(0x10, 0x20, 0x30)) << x;
     }
-    // Every alpha byte zero: the AND mask decides and opaque pixels keep their colour.
+    // Every alpha byte zero: the AND mask decides, and every pixel keeps the XOR image's
+    // colour, transparent ones too (they invert the background).
     s.pixel = [](int, int) {
         return 0x102030u;
     };
     b = decodeOnly(icoFile(s));
-    for (int x = 0; x < 4; ++x)
+    for (int x = 0; x < 4; ++x) {
         EXPECT_EQ(b.mask.at(x, 0), x >= 2 ? kWhite : kBlack) << x;
-    EXPECT_EQ(b.image.at(0, 0), rgb(0x10, 0x20, 0x30));
+        EXPECT_EQ(b.image.at(x, 0), rgb(0x10, 0x20, 0x30)) << x;
+    }
 }
 
 TEST(IcoReader, MissingMaskCountsAsOpaque) {
