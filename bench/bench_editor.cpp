@@ -130,43 +130,43 @@ const std::vector<std::pair<const char*, Effect>>& effectTable() {
     static const std::vector<std::pair<const char*, Effect>> table = {
         {"Mirroir horizontal",
          [](IconEditor& e) {
-             return e.flip(3);
+             return e.applyEffect(editor::PixelEffect::FlipHorizontal);
          }},
         {"Mirroir vertical",
          [](IconEditor& e) {
-             return e.flip(4);
+             return e.applyEffect(editor::PixelEffect::FlipVertical);
          }},
         {"Rotation 90° à gauche",
          [](IconEditor& e) {
-             return e.quarterTurn(5);
+             return e.applyEffect(editor::PixelEffect::TurnLeft);
          }},
         {"Rotation 90° à droite",
          [](IconEditor& e) {
-             return e.quarterTurn(6);
+             return e.applyEffect(editor::PixelEffect::TurnRight);
          }},
         {"Reflet gauche/droite",
          [](IconEditor& e) {
-             return e.halfReflect(0);
+             return e.applyEffect(editor::PixelEffect::ReflectLeftOntoRight);
          }},
         {"Reflet droite/gauche",
          [](IconEditor& e) {
-             return e.halfReflect(1);
+             return e.applyEffect(editor::PixelEffect::ReflectRightOntoLeft);
          }},
         {"Reflet haut/bas",
          [](IconEditor& e) {
-             return e.halfReflect(2);
+             return e.applyEffect(editor::PixelEffect::ReflectTopOntoBottom);
          }},
         {"Reflet bas/haut",
          [](IconEditor& e) {
-             return e.halfReflect(3);
+             return e.applyEffect(editor::PixelEffect::ReflectBottomOntoTop);
          }},
         {"Niveaux de gris",
          [](IconEditor& e) {
-             return e.greyLevels();
+             return e.applyEffect(editor::PixelEffect::GreyLevels);
          }},
         {"Icône en négatif",
          [](IconEditor& e) {
-             return e.negative();
+             return e.applyEffect(editor::PixelEffect::Negative);
          }},
         {"Effet bouton",
          [](IconEditor& e) {
@@ -267,7 +267,7 @@ void BM_UndoRedo(benchmark::State& state) {
     IconEditor e;
     e.loadIcon(patternedIcon());
     for (int i = 0; i < 1000; ++i)
-        e.negative();
+        e.applyEffect(editor::PixelEffect::Negative);
     for (auto _ : state) {
         benchmark::DoNotOptimize(e.Undo());
         benchmark::DoNotOptimize(e.Redo());

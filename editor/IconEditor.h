@@ -5,6 +5,7 @@
 #include "editor/History.h"
 #include "editor/Palette.h"
 #include "editor/PasteSizing.h"
+#include "editor/PixelEffect.h"
 #include "editor/Tool.h"
 #include "effects/ColourAdjuster.h"
 #include "icon/Colour.h"
@@ -129,15 +130,11 @@ public:
                           PasteFit fit = PasteFit::Proportional);
 
     // --- Effects --------------------------------------------------------------------------
-    // By their pad index: flips 3 (left–right) and 4 (top–bottom); quarter turns 5 (left) and 6
-    // (right) on the whole icon, while a selection turns clockwise unless given 7.
-    Events flip(int index);
-    Events quarterTurn(int index);
-    // The reflection pad, 0..3, and whether an entry can be chosen now.
-    Events halfReflect(int index);
-    bool reflectionEnabled(int index) const;
-    Events greyLevels();
-    Events negative();
+    // A pixel effect on the selection, or on the whole icon without one. A selection turns
+    // clockwise whichever turn is asked, as the program has always done.
+    Events applyEffect(PixelEffect effect);
+    // Whether the effect can be chosen now: a reflection needs two halves of the selection.
+    bool effectEnabled(PixelEffect effect) const;
     Events buttonEffect();
     // Settles any selection and gives the dialog's tables for the icon.
     effects::ColourAdjuster beginColourAdjustment(icon::Colour previewBackground = icon::kWhite);
@@ -157,8 +154,7 @@ private:
     void moveSelectionTo(int x, int y);
     void paintCellAt(int x, int y);
     void updateRubberBand();
-    template <typename Transform>
-    Events transformBlock(Transform transform, bool turns);
+    Events transformBlock(icon::IconBitmap (*transform)(const icon::IconBitmap&), bool turns);
 
     icon::IconPlanes m_planes;
     History m_history;

@@ -14,8 +14,7 @@ using icon::IconBitmap;
 // Without a selection the whole icon changes and one step is recorded. A floating selection
 // changes in its buffers only, with no step. A drawn selection changes in place, also with no
 // step; a quarter turn lifts it first, and it floats afterwards.
-template <typename Transform>
-Events IconEditor::transformBlock(Transform transform, bool turns) {
+Events IconEditor::transformBlock(IconBitmap (*transform)(const IconBitmap&), bool turns) {
     switch (m_selection) {
     case SelectionState::None:
         m_planes = icon::toPlanes(transform(icon::fromPlanes(m_planes)));
@@ -42,54 +41,65 @@ Events IconEditor::transformBlock(Transform transform, bool turns) {
     return kRedraw;
 }
 
-Events IconEditor::flip(int index) {
-    if (index == 3)
-        return transformBlock(effects::flipHorizontal, false);
-    if (index == 4)
-        return transformBlock(effects::flipVertical, false);
-    return kNoEvent;
+namespace {
+
+using Effect = IconBitmap (*)(const IconBitmap&);
+
+struct EffectRule {
+    Effect onIcon;
+    Effect onSelection;
+    bool turns;
+};
+
+EffectRule ruleOf(PixelEffect effect) {
+    switch (effect) {
+    case PixelEffect::GreyLevels:
+        return {effects::greyLevels, effects::greyLevels, false};
+    case PixelEffect::Negative:
+        return {effects::negative, effects::negative, false};
+    case PixelEffect::FlipHorizontal:
+        return {effects::flipHorizontal, effects::flipHorizontal, false};
+    case PixelEffect::FlipVertical:
+        return {effects::flipVertical, effects::flipVertical, false};
+    case PixelEffect::TurnLeft:
+        return {effects::turnLeft, effects::turnRight, true};
+    case PixelEffect::TurnRight:
+        return {effects::turnRight, effects::turnRight, true};
+    case PixelEffect::ReflectLeftOntoRight:
+        return {effects::reflectLeftOntoRight, effects::reflectLeftOntoRight, false};
+    case PixelEffect::ReflectRightOntoLeft:
+        return {effects::reflectRightOntoLeft, effects::reflectRightOntoLeft, false};
+    case PixelEffect::ReflectTopOntoBottom:
+        return {effects::reflectTopOntoBottom, effects::reflectTopOntoBottom, false};
+    case PixelEffect::ReflectBottomOntoTop:
+        return {effects::reflectBottomOntoTop, effects::reflectBottomOntoTop, false};
+    }
+    return {nullptr, nullptr, false};
 }
 
-Events IconEditor::quarterTurn(int index) {
-    if (m_selection == SelectionState::None)
-        return transformBlock(index == 5 ? effects::turnLeft : effects::turnRight, true);
-    // A selection turns clockwise for both pad entries, as the program has always done; only
-    // index 7 turns it the other way.
-    return transformBlock(index == 7 ? effects::turnLeft : effects::turnRight, true);
-}
+} // namespace
 
-bool IconEditor::reflectionEnabled(int index) const {
-    if (index < 0 || index > 3)
-        return false;
+bool IconEditor::effectEnabled(PixelEffect effect) const {
     if (m_selection == SelectionState::None)
         return true;
-    return effects::reflectionAllowed(index, m_rect.width() / kCellSize,
-                                      m_rect.height() / kCellSize);
+    switch (effect) {
+    case PixelEffect::ReflectLeftOntoRight:
+    case PixelEffect::ReflectRightOntoLeft:
+        return effects::halvesAcross(m_rect.width() / kCellSize);
+    case PixelEffect::ReflectTopOntoBottom:
+    case PixelEffect::ReflectBottomOntoTop:
+        return effects::halvesDown(m_rect.height() / kCellSize);
+    default:
+        return true;
+    }
 }
 
-Events IconEditor::halfReflect(int index) {
-    if (!reflectionEnabled(index))
+Events IconEditor::applyEffect(PixelEffect effect) {
+    const EffectRule rule = ruleOf(effect);
+    if (rule.onIcon == nullptr || !effectEnabled(effect))
         return kNoEvent;
-    return transformBlock([index](const IconBitmap& b) { return effects::halfReflect(b, index); },
-                          false);
-}
-
-Events IconEditor::greyLevels() {
-    return transformBlock(
-        [](IconBitmap b) {
-            effects::greyLevels(b);
-            return b;
-        },
-        false);
-}
-
-Events IconEditor::negative() {
-    return transformBlock(
-        [](IconBitmap b) {
-            effects::negative(b);
-            return b;
-        },
-        false);
+    return transformBlock(m_selection == SelectionState::None ? rule.onIcon : rule.onSelection,
+                          rule.turns);
 }
 
 Events IconEditor::buttonEffect() {

@@ -19,21 +19,22 @@ Colour negativeOf(Colour c) {
 namespace {
 
 template <typename Change>
-void onOpaquePixels(icon::IconBitmap& block, Change change) {
+icon::IconBitmap onOpaquePixels(icon::IconBitmap block, Change change) {
     for (int y = 0; y < block.height(); ++y)
         for (int x = 0; x < block.width(); ++x)
             if (!icon::isTransparentMask(block.mask.at(x, y)))
                 block.image.set(x, y, change(block.image.at(x, y)));
+    return block;
 }
 
 } // namespace
 
-void greyLevels(icon::IconBitmap& block) {
-    onOpaquePixels(block, greyOf);
+icon::IconBitmap greyLevels(const icon::IconBitmap& block) {
+    return onOpaquePixels(block, greyOf);
 }
 
-void negative(icon::IconBitmap& block) {
-    onOpaquePixels(block, negativeOf);
+icon::IconBitmap negative(const icon::IconBitmap& block) {
+    return onOpaquePixels(block, negativeOf);
 }
 
 } // namespace effects

@@ -12,7 +12,7 @@ icon::Colour negativeOf(icon::Colour c);
 
 // Both change only the opaque pixels of the block (mask not white); transparent pixels keep
 // their colour value as it is.
-void greyLevels(icon::IconBitmap& block);
-void negative(icon::IconBitmap& block);
+icon::IconBitmap greyLevels(const icon::IconBitmap& block);
+icon::IconBitmap negative(const icon::IconBitmap& block);
 
 } // namespace effects

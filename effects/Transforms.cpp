@@ -49,46 +49,50 @@ IconBitmap turnRight(const IconBitmap& block) {
     return remap(block, h, block.width(), [h](int x, int y) { return Point{y, h - 1 - x}; });
 }
 
-IconBitmap halfReflect(const IconBitmap& block, int index) {
-    const int w = block.width(), h = block.height();
-    const int halfW = w / 2, halfH = h / 2;
-    // An odd side has no two halves to mirror; the pad never offers it, and a block is never
-    // read outside its bounds because of it.
-    if (!reflectionAllowed(index, w, h))
-        return block;
-    switch (index) {
-    case 0:
-        return remap(block, w, h, [=](int x, int y) {
-            return x >= halfW ? Point{2 * halfW - 1 - x, y} : Point{x, y};
-        });
-    case 1:
-        return remap(block, w, h, [=](int x, int y) {
-            return x < halfW ? Point{w - 1 - x, y} : Point{x, y};
-        });
-    case 2:
-        return remap(block, w, h, [=](int x, int y) {
-            return y >= halfH ? Point{x, 2 * halfH - 1 - y} : Point{x, y};
-        });
-    case 3:
-        return remap(block, w, h, [=](int x, int y) {
-            return y < halfH ? Point{x, h - 1 - y} : Point{x, y};
-        });
-    default:
-        return block;
-    }
+bool halvesAcross(int width) {
+    return width % 2 == 0;
 }
 
-bool reflectionAllowed(int index, int width, int height) {
-    switch (index) {
-    case 0:
-    case 1:
-        return width % 2 == 0;
-    case 2:
-    case 3:
-        return height % 2 == 0;
-    default:
-        return false;
-    }
+bool halvesDown(int height) {
+    return height % 2 == 0;
+}
+
+// An odd side has no two halves to mirror; the pad never offers it, and a block is never read
+// outside its bounds because of it.
+IconBitmap reflectLeftOntoRight(const IconBitmap& block) {
+    const int w = block.width(), half = w / 2;
+    if (!halvesAcross(w))
+        return block;
+    return remap(block, w, block.height(), [=](int x, int y) {
+        return x >= half ? Point{2 * half - 1 - x, y} : Point{x, y};
+    });
+}
+
+IconBitmap reflectRightOntoLeft(const IconBitmap& block) {
+    const int w = block.width(), half = w / 2;
+    if (!halvesAcross(w))
+        return block;
+    return remap(block, w, block.height(), [=](int x, int y) {
+        return x < half ? Point{w - 1 - x, y} : Point{x, y};
+    });
+}
+
+IconBitmap reflectTopOntoBottom(const IconBitmap& block) {
+    const int h = block.height(), half = h / 2;
+    if (!halvesDown(h))
+        return block;
+    return remap(block, block.width(), h, [=](int x, int y) {
+        return y >= half ? Point{x, 2 * half - 1 - y} : Point{x, y};
+    });
+}
+
+IconBitmap reflectBottomOntoTop(const IconBitmap& block) {
+    const int h = block.height(), half = h / 2;
+    if (!halvesDown(h))
+        return block;
+    return remap(block, block.width(), h, [=](int x, int y) {
+        return y < half ? Point{x, h - 1 - y} : Point{x, y};
+    });
 }
 
 } // namespace effects

@@ -16,14 +16,16 @@ icon::IconBitmap turnLeft(const icon::IconBitmap& block);
 // Clockwise, W×H to H×W: new(H−1−y, x) = old(x, y).
 icon::IconBitmap turnRight(const icon::IconBitmap& block);
 
-// The half-reflections, by their index on the reflection pad:
-// 0 left half onto the right, 1 right onto the left, 2 top onto the bottom, 3 bottom onto the top.
-// The halves are W \ 2 and H \ 2; any other index, or a side that cannot be halved, gives the
-// block back unchanged.
-icon::IconBitmap halfReflect(const icon::IconBitmap& block, int index);
+// The half-reflections: one half of the block mirrored onto the other. The halves are W \ 2
+// and H \ 2; a side that cannot be halved gives the block back unchanged.
+icon::IconBitmap reflectLeftOntoRight(const icon::IconBitmap& block);
+icon::IconBitmap reflectRightOntoLeft(const icon::IconBitmap& block);
+icon::IconBitmap reflectTopOntoBottom(const icon::IconBitmap& block);
+icon::IconBitmap reflectBottomOntoTop(const icon::IconBitmap& block);
 
-// Whether a reflection entry can be chosen for a block of this size: the left/right pair needs
-// an even width, the top/bottom pair an even height.
-bool reflectionAllowed(int index, int width, int height);
+// Whether a block of this size has two halves to mirror: across (left/right) needs an even
+// width, down (top/bottom) an even height.
+bool halvesAcross(int width);
+bool halvesDown(int height);
 
 } // namespace effects

@@ -242,43 +242,9 @@ void FrmIcoEd::closeEvent(QCloseEvent* event) {
 
 void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
     // The letter alone counts, with or without Ctrl, as it always has.
-    switch (event->key()) {
-    case Qt::Key_Z:
-        undoOrRedo(true, false);
-        break;
-    case Qt::Key_R:
-        undoOrRedo(false, false);
-        break;
-    case Qt::Key_X:
-        cut();
-        break;
-    case Qt::Key_C:
-        copy();
-        break;
-    case Qt::Key_V:
-        paste(false);
-        break;
-    case Qt::Key_O:
-        paste(true);
-        break;
-    case Qt::Key_S:
-        apply(m_engine.DeleteSelection());
-        break;
-    case Qt::Key_T:
-        apply(m_engine.SelectAll());
-        break;
-    default:
-        // P, K and N wait for the clipboard viewer and the captures.
+    const EditorCommand* command = commandForKey(event->key());
+    if (command == nullptr || !runCommand(command->command, Origin::Key))
         QWidget::keyPressEvent(event);
-    }
-}
-
-void FrmIcoEd::undoOrRedo(bool undo, bool dropSelectionFirst) {
-    const Events events =
-        undo ? m_engine.Undo(dropSelectionFirst) : m_engine.Redo(dropSelectionFirst);
-    apply(events);
-    if (events & kHistoryFailed)
-        showKeyboardError();
 }
 
 void FrmIcoEd::showKeyboardError() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/Document.h"
+#include "editor/EditorCommands.h"
 #include "editor/IconEditor.h"
 #include "editor/ui/DialogDocumentHost.h"
 
@@ -37,10 +38,6 @@ public:
     // "Oui"); it decides whether the display deserves the warning.
     using LoadNotice = std::function<void(QWidget& editor)>;
 
-    // The effect entries that open a dialog of their own. They stay disabled until
-    // setDialogCommand() gives them a command; an empty one disables the entry again.
-    enum class DialogEntry { AdjustColours, Gradient, Kaleidoscope };
-
     explicit FrmIcoEd(LoadNotice notice = {}, QWidget* parent = nullptr);
     ~FrmIcoEd() override;
 
@@ -54,7 +51,12 @@ public:
     void handOver(const QString& path);
     // The program's command line: "/open <path>" opens that icon at once.
     void readCommandLine(const QString& commandLine);
-    void setDialogCommand(DialogEntry entry, std::function<void()> command);
+    // Gives a command that needs another window (a dialog, the clipboard viewer, a capture)
+    // its action; its entry stays disabled until then, and an empty action disables it again.
+    void setCommand(Command command, std::function<void()> run);
+    // Runs a command of the pads as chosen from a pad or by its key; false when it has nothing
+    // to run yet.
+    bool runCommand(Command command, Origin origin);
 
     // Acts on what the engine answered: repaints, beeps, swatches, tool pad, palette, readout.
     void apply(Events events);
@@ -84,11 +86,6 @@ private:
     // Commands.
     enum class FileCommand { New, Open, Save };
     void runFileCommand(const std::function<bool()>& command, FileCommand kind);
-    void runEditOption(int index);
-    void runColourOption(int index);
-    void runEffectOption(int index);
-    void runMirrorOption(int index);
-    void undoOrRedo(bool undo, bool dropSelectionFirst);
     void cut();
     void copy();
     void paste(bool opaque);
@@ -116,9 +113,10 @@ private:
     platform::GradientPanel* m_editPad = nullptr;
     platform::GradientPanel* m_colourPad = nullptr;
     platform::GradientPanel* m_effectsPad = nullptr;
-    std::array<platform::GradientButton*, 4> m_mirror{};
-    std::array<platform::GradientButton*, 3> m_dialogEntries{};
-    std::array<std::function<void()>, 3> m_dialogCommands;
+    static constexpr std::size_t kCommandCount =
+        static_cast<std::size_t>(Command::ReflectBottomOntoTop) + 1;
+    std::array<platform::GradientButton*, kCommandCount> m_entries{};
+    std::array<std::function<void()>, kCommandCount> m_commands;
     QTimer* m_timer1 = nullptr;
 };
 

@@ -2,7 +2,7 @@
 // commands behind their entries.
 #include "editor/ui/FrmIcoEd.h"
 
-#include "editor/PadTexts.h"
+#include "editor/EditorCommands.h"
 #include "editor/ui/CanvasView.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
@@ -95,51 +95,56 @@ void FrmIcoEd::buildPads() {
     connect(m_recall, &QAbstractButton::clicked, this,
             [this] { runFileCommand([this] { return m_document->recall(); }, FileCommand::Open); });
 
-    // Edition: the edit options list.
-    m_editPad = buildPad("PopUpEdition", 88, static_cast<int>(kEditOptions.size()), 240);
-    for (std::size_t i = 0; i < kEditOptions.size(); ++i) {
-        auto* entry = addEntry(m_editPad, "CmdEditOpts", static_cast<int>(i), kEditOptions[i],
-                               static_cast<int>(i), 232);
-        connect(entry, &QAbstractButton::clicked, this,
-                [this, i] { runEditOption(static_cast<int>(i)); });
-    }
-    // The clipboard viewer and the two captures come with their own windows.
-    for (int waiting : {4, 7, 10})
-        m_editPad->findChildren<platform::GradientButton*>()[waiting]->setEnabled(false);
-
-    // Couleurs.
-    m_colourPad = buildPad("PopUpCouleur", 168, static_cast<int>(kColoursPad.size()), 240);
-    for (std::size_t i = 0; i < kColoursPad.size(); ++i) {
-        auto* entry = addEntry(m_colourPad, "CmdColorOpts", static_cast<int>(i), kColoursPad[i],
-                               static_cast<int>(i), 232);
-        connect(entry, &QAbstractButton::clicked, this,
-                [this, i] { runColourOption(static_cast<int>(i)); });
-    }
-    m_dialogEntries[0] = m_colourPad->findChildren<platform::GradientButton*>()[2];
-
-    // Effets, with the reflection pad below its entries.
-    const int effects = static_cast<int>(kEffectsPad.size());
-    m_effectsPad = buildPad("PopUpEffets", 248, effects + static_cast<int>(kMirrorPad.size()), 190);
+    // The command pads, built from the editor's table of commands. The reflections sit on the
+    // Effets pad, below its entries.
+    m_editPad =
+        buildPad("PopUpEdition", 88, static_cast<int>(padCommands(Pad::Edition).size()), 240);
+    m_colourPad =
+        buildPad("PopUpCouleur", 168, static_cast<int>(padCommands(Pad::Couleurs).size()), 240);
+    const int effects = static_cast<int>(padCommands(Pad::Effets).size());
+    m_effectsPad = buildPad("PopUpEffets", 248,
+                            effects + static_cast<int>(padCommands(Pad::Reflets).size()), 190);
     m_effectsPad->resize(m_effectsPad->width(), m_effectsPad->height() + 6);
     m_effectsPad->move(m_effectsPad->x(), kPadBottom - m_effectsPad->height());
-    for (int i = 0; i < effects; ++i) {
-        auto* entry = addEntry(m_effectsPad, "CmdEffetsOpts", i,
-                               kEffectsPad[static_cast<std::size_t>(i)], i, 182);
-        connect(entry, &QAbstractButton::clicked, this, [this, i] { runEffectOption(i); });
+    for (const EditorCommand& command : editorCommands()) {
+        struct Place {
+            platform::GradientPanel* pad;
+            const char* list;
+            int row;
+            int width;
+            int drop;
+        };
+        const Place place = [&]() -> Place {
+            switch (command.pad) {
+            case Pad::Edition:
+                return {m_editPad, "CmdEditOpts", command.index, 232, 0};
+            case Pad::Couleurs:
+                return {m_colourPad, "CmdColorOpts", command.index, 232, 0};
+            case Pad::Effets:
+                return {m_effectsPad, "CmdEffetsOpts", command.index, 182, 0};
+            case Pad::Reflets:
+                break;
+            }
+            return {m_effectsPad, "CmdMirrorOpts", effects + command.index, 182, 6};
+        }();
+        auto* entry =
+            addEntry(place.pad, place.list, command.index, command.text, place.row, place.width);
+        entry->move(entry->x(), entry->y() + place.drop);
+        const Command name = command.command;
+        connect(entry, &QAbstractButton::clicked, this,
+                [this, name] { runCommand(name, Origin::Pad); });
+        m_entries[static_cast<std::size_t>(name)] = entry;
     }
-    const auto effectEntries = m_effectsPad->findChildren<platform::GradientButton*>();
-    m_dialogEntries[1] = effectEntries[1];
-    m_dialogEntries[2] = effectEntries[2];
-    for (int i = 0; i < 4; ++i) {
-        auto* entry = addEntry(m_effectsPad, "CmdMirrorOpts", i,
-                               kMirrorPad[static_cast<std::size_t>(i)], effects + i, 182);
-        entry->move(entry->x(), entry->y() + 6);
-        m_mirror[static_cast<std::size_t>(i)] = entry;
-        connect(entry, &QAbstractButton::clicked, this, [this, i] { runMirrorOption(i); });
-    }
-    // The effect dialogs are other windows: whoever composes the program puts them here.
-    for (std::size_t i = 0; i < m_dialogEntries.size(); ++i)
-        setDialogCommand(static_cast<DialogEntry>(i), {});
+    // What needs only the clipboard or the display is the window's own; what opens another
+    // window waits for whoever composes the program to put it here.
+    setCommand(Command::Cut, [this] { cut(); });
+    setCommand(Command::Copy, [this] { copy(); });
+    setCommand(Command::Paste, [this] { paste(false); });
+    setCommand(Command::PasteOpaque, [this] { paste(true); });
+    setCommand(Command::SixteenMillionColours, [this] { showSixteenMillionColours(); });
+    for (const EditorCommand& command : editorCommands())
+        if (command.run == nullptr && !m_commands[static_cast<std::size_t>(command.command)])
+            m_entries[static_cast<std::size_t>(command.command)]->setEnabled(false);
 
     // The pad buttons and their help buttons.
     const std::array<platform::GradientPanel*, 4> popUps{m_filePad, m_editPad, m_colourPad,
@@ -204,9 +209,10 @@ void FrmIcoEd::showPad(platform::GradientPanel* pad) {
     hidePads();
     if (wasVisible)
         return;
-    if (pad == m_effectsPad)
-        for (int i = 0; i < 4; ++i)
-            m_mirror[static_cast<std::size_t>(i)]->setEnabled(m_engine.reflectionEnabled(i));
+    for (const EditorCommand& command : editorCommands())
+        if (command.enabled != nullptr)
+            m_entries[static_cast<std::size_t>(command.command)]->setEnabled(
+                command.enabled(m_engine));
     pad->raise();
     pad->show();
 }
@@ -217,89 +223,30 @@ void FrmIcoEd::hidePads() {
             pad->hide();
 }
 
-void FrmIcoEd::setDialogCommand(DialogEntry entry, std::function<void()> command) {
-    const auto i = static_cast<std::size_t>(entry);
-    m_dialogCommands[i] = std::move(command);
-    m_dialogEntries[i]->setEnabled(static_cast<bool>(m_dialogCommands[i]));
+void FrmIcoEd::setCommand(Command command, std::function<void()> run) {
+    const auto i = static_cast<std::size_t>(command);
+    m_commands[i] = std::move(run);
+    if (m_entries[i] != nullptr)
+        m_entries[i]->setEnabled(static_cast<bool>(m_commands[i]));
 }
 
-void FrmIcoEd::runEditOption(int index) {
+bool FrmIcoEd::runCommand(Command name, Origin origin) {
     hidePads();
-    switch (index) {
-    case 0:
-    case 1:
-        // The list settles a floating picture first; the keys do not.
-        undoOrRedo(index == 0, true);
-        break;
-    case 2:
-        cut();
-        break;
-    case 3:
-        copy();
-        break;
-    case 5:
-    case 6:
-        paste(index == 6);
-        break;
-    case 8:
-        apply(m_engine.DeleteSelection());
-        break;
-    case 9:
-        apply(m_engine.SelectAll());
-        break;
-    default:
-        break;
+    const EditorCommand& command = commandInfo(name);
+    if (command.run != nullptr) {
+        if (command.enabled != nullptr && !command.enabled(m_engine))
+            return true;
+        const Events events = command.run(m_engine, origin);
+        apply(events);
+        if (events & kHistoryFailed)
+            showKeyboardError();
+        return true;
     }
-}
-
-void FrmIcoEd::runColourOption(int index) {
-    hidePads();
-    switch (index) {
-    case 0:
-        apply(m_engine.greyLevels());
-        break;
-    case 1:
-        apply(m_engine.negative());
-        break;
-    case 2:
-        if (m_dialogCommands[0])
-            m_dialogCommands[0]();
-        break;
-    case 3:
-        showSixteenMillionColours();
-        break;
-    default:
-        break;
+    if (const auto& run = m_commands[static_cast<std::size_t>(name)]) {
+        run();
+        return true;
     }
-}
-
-void FrmIcoEd::runEffectOption(int index) {
-    hidePads();
-    switch (index) {
-    case 0:
-        apply(m_engine.buttonEffect());
-        break;
-    case 1:
-    case 2:
-        if (const auto& command = m_dialogCommands[static_cast<std::size_t>(index)])
-            command();
-        break;
-    case 3:
-    case 4:
-        apply(m_engine.flip(index));
-        break;
-    case 5:
-    case 6:
-        apply(m_engine.quarterTurn(index));
-        break;
-    default:
-        break;
-    }
-}
-
-void FrmIcoEd::runMirrorOption(int index) {
-    hidePads();
-    apply(m_engine.halfReflect(index));
+    return false;
 }
 
 void FrmIcoEd::showSixteenMillionColours() {

@@ -46,19 +46,19 @@ editor::ui::FrmIcoEd& EditorHost::editor() {
 }
 
 void EditorHost::connectEffectDialogs(editor::ui::FrmIcoEd& window) {
-    using Entry = editor::ui::FrmIcoEd::DialogEntry;
+    using editor::Command;
     // Each dialog lives for one use. The canvas is redrawn whatever the answer: the colour
     // adjustment settles a floating picture before its dialog opens.
     auto* editor = &window;
-    editor->setDialogCommand(Entry::AdjustColours, [editor] {
+    editor->setCommand(Command::AdjustColours, [editor] {
         effects::ui::FrmColAdj::run(editor->engine(), platform::dialogs(), editor);
         editor->apply(editor::kRedraw);
     });
-    editor->setDialogCommand(Entry::Gradient, [editor] {
+    editor->setCommand(Command::Gradient, [editor] {
         effects::ui::FrmShades::run(editor->engine(), platform::dialogs(), editor);
         editor->apply(editor::kRedraw);
     });
-    editor->setDialogCommand(Entry::Kaleidoscope, [this, editor] {
+    editor->setCommand(Command::Kaleidoscope, [this, editor] {
         effects::ui::FrmRndIcon::run(editor->engine(), platform::dialogs(), m_random, editor);
         editor->apply(editor::kRedraw);
     });

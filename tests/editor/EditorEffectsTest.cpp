@@ -22,24 +22,25 @@ struct EffectCase {
     std::function<Events(IconEditor&)> run;
 };
 
-// Flips, turns and reflections by the index of their menu entry.
-EffectCase indexed(const char* name, Events (IconEditor::*effect)(int), int index) {
+// The pixel effects, by name.
+EffectCase named(const char* name, editor::PixelEffect effect) {
     return {name, [=](IconEditor& e) {
-                return (e.*effect)(index);
+                return e.applyEffect(effect);
             }};
 }
 
+using P = editor::PixelEffect;
 const std::vector<EffectCase> kBlockEffects = {
-    indexed("mirror left-right", &IconEditor::flip, 3),
-    indexed("mirror top-bottom", &IconEditor::flip, 4),
-    indexed("turn left", &IconEditor::quarterTurn, 5),
-    indexed("turn right", &IconEditor::quarterTurn, 6),
-    indexed("reflect left/right", &IconEditor::halfReflect, 0),
-    indexed("reflect right/left", &IconEditor::halfReflect, 1),
-    indexed("reflect top/bottom", &IconEditor::halfReflect, 2),
-    indexed("reflect bottom/top", &IconEditor::halfReflect, 3),
-    {"grey levels", &IconEditor::greyLevels},
-    {"negative", &IconEditor::negative},
+    named("mirror left-right", P::FlipHorizontal),
+    named("mirror top-bottom", P::FlipVertical),
+    named("turn left", P::TurnLeft),
+    named("turn right", P::TurnRight),
+    named("reflect left/right", P::ReflectLeftOntoRight),
+    named("reflect right/left", P::ReflectRightOntoLeft),
+    named("reflect top/bottom", P::ReflectTopOntoBottom),
+    named("reflect bottom/top", P::ReflectBottomOntoTop),
+    named("grey levels", P::GreyLevels),
+    named("negative", P::Negative),
 };
 
 Events adjustColours(IconEditor& e) {
@@ -95,7 +96,7 @@ TEST(EditorEffects, OnADrawnSelectionTheZoneChangesInPlaceWithoutAStep) {
     IconEditor e;
     e.loadIcon(patternedIcon());
     drawSelection(e, 2, 2, 8, 6);
-    e.flip(3);
+    e.applyEffect(P::FlipHorizontal);
     EXPECT_EQ(e.selectionState(), SelectionState::Drawn);
     EXPECT_EQ(e.history().undoCount(), 1u);
     EXPECT_TRUE(e.isModified());
@@ -112,7 +113,7 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
     IconEditor e;
     e.loadIcon(patternedIcon());
     drawSelection(e, 1, 2, 6, 5); // 5 × 3 cells
-    e.quarterTurn(5);             // "left", and a selection turns clockwise anyway
+    e.applyEffect(P::TurnLeft);   // a selection turns clockwise anyway
     EXPECT_EQ(e.selectionState(), SelectionState::Floating);
     EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 40, 70}));
     icon::IconBitmap lifted{icon::Frame(5, 3), icon::Frame(5, 3)};
@@ -124,21 +125,22 @@ TEST(EditorEffects, AQuarterTurnLiftsADrawnSelection) {
     EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
     EXPECT_EQ(e.planes(), patternedIcon());
     EXPECT_EQ(e.history().undoCount(), 1u);
-    e.quarterTurn(6);
+    e.applyEffect(P::TurnRight);
     EXPECT_EQ(e.selectionRect(), (CanvasRect{10, 20, 60, 50}));
-    e.quarterTurn(7); // the one index that turns a selection to the left
-    EXPECT_EQ(e.selectionBuffers(), effects::turnRight(lifted));
 }
 
 TEST(EditorEffects, ReflectionsNeedEvenSidesOfTheSelection) {
     IconEditor e;
-    EXPECT_TRUE(e.reflectionEnabled(0) && e.reflectionEnabled(3));
+    const P reflections[] = {P::ReflectLeftOntoRight, P::ReflectRightOntoLeft,
+                             P::ReflectTopOntoBottom, P::ReflectBottomOntoTop};
+    for (P r : reflections)
+        EXPECT_TRUE(e.effectEnabled(r));
     drawSelection(e, 0, 0, 7, 6);
     const bool expected[] = {false, false, true, true};
-    for (int index = 0; index < 4; ++index)
-        EXPECT_EQ(e.reflectionEnabled(index), expected[index]) << index;
-    EXPECT_FALSE(e.reflectionEnabled(4));
-    EXPECT_EQ(e.halfReflect(0), editor::kNoEvent);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(e.effectEnabled(reflections[i]), expected[i]) << i;
+    EXPECT_TRUE(e.effectEnabled(P::Negative));
+    EXPECT_EQ(e.applyEffect(P::ReflectLeftOntoRight), editor::kNoEvent);
 }
 
 TEST(EditorEffects, WholeIconEffectsStampAFloatingSelectionFirst) {

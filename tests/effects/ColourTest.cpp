@@ -40,17 +40,14 @@ TEST(ColourTransforms, TouchOnlyOpaquePixels) {
     block.image.set(2, 0, rgb(200, 0, 50));
     block.mask.set(2, 0, 0xFEFEFE); // near white is opaque
 
-    icon::IconBitmap negative = block;
-    effects::negative(negative);
+    icon::IconBitmap negative = effects::negative(block);
     EXPECT_EQ(negative.image.at(0, 0), rgb(245, 235, 225));
     EXPECT_EQ(negative.image.at(1, 0), rgb(10, 20, 30));
     EXPECT_EQ(negative.image.at(2, 0), rgb(55, 255, 205));
     EXPECT_EQ(negative.mask, block.mask);
-    effects::negative(negative);
-    EXPECT_EQ(negative, block);
+    EXPECT_EQ(effects::negative(negative), block);
 
-    icon::IconBitmap grey = block;
-    effects::greyLevels(grey);
+    const icon::IconBitmap grey = effects::greyLevels(block);
     EXPECT_EQ(grey.image.at(1, 0), rgb(10, 20, 30));
     EXPECT_EQ(grey.image.at(0, 0), effects::greyOf(rgb(10, 20, 30)));
     EXPECT_EQ(grey.mask, block.mask);

@@ -74,35 +74,24 @@ TEST(Transforms, HalfReflectionsCopyOneHalfOntoTheOther) {
         n.push_back(i);
     const IconBitmap source = block(4, n);
     struct Case {
-        int index;
+        IconBitmap (*reflect)(const IconBitmap&);
         std::vector<icon::Colour> expected;
     } cases[] = {
-        {0, {0, 1, 1, 0, 4, 5, 5, 4, 8, 9, 9, 8, 12, 13, 13, 12}},
-        {1, {3, 2, 2, 3, 7, 6, 6, 7, 11, 10, 10, 11, 15, 14, 14, 15}},
-        {2, {0, 1, 2, 3, 4, 5, 6, 7, 4, 5, 6, 7, 0, 1, 2, 3}},
-        {3, {12, 13, 14, 15, 8, 9, 10, 11, 8, 9, 10, 11, 12, 13, 14, 15}},
-        {4, n},
-        {-1, n},
+        {effects::reflectLeftOntoRight, {0, 1, 1, 0, 4, 5, 5, 4, 8, 9, 9, 8, 12, 13, 13, 12}},
+        {effects::reflectRightOntoLeft, {3, 2, 2, 3, 7, 6, 6, 7, 11, 10, 10, 11, 15, 14, 14, 15}},
+        {effects::reflectTopOntoBottom, {0, 1, 2, 3, 4, 5, 6, 7, 4, 5, 6, 7, 0, 1, 2, 3}},
+        {effects::reflectBottomOntoTop,
+         {12, 13, 14, 15, 8, 9, 10, 11, 8, 9, 10, 11, 12, 13, 14, 15}},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(effects::halfReflect(source, c.index), block(4, c.expected)) << c.index;
+        EXPECT_EQ(c.reflect(source), block(4, c.expected));
 }
 
 TEST(Transforms, ReflectionsNeedAnEvenSide) {
-    struct Case {
-        int width, height;
-        bool expected[4];
-    } cases[] = {
-        {7, 6, {false, false, true, true}},
-        {6, 7, {true, true, false, false}},
-        {32, 32, {true, true, true, true}},
-        {1, 1, {false, false, false, false}},
-    };
-    for (const Case& c : cases)
-        for (int index = 0; index < 4; ++index)
-            EXPECT_EQ(effects::reflectionAllowed(index, c.width, c.height), c.expected[index])
-                << c.width << "x" << c.height << " entry " << index;
+    EXPECT_TRUE(effects::halvesAcross(32) && effects::halvesDown(6));
+    EXPECT_FALSE(effects::halvesAcross(7) || effects::halvesDown(1));
     // An odd side is left alone rather than read out of bounds.
     const IconBitmap odd = block(3, {1, 2, 3});
-    EXPECT_EQ(effects::halfReflect(odd, 0), odd);
+    EXPECT_EQ(effects::reflectLeftOntoRight(odd), odd);
+    EXPECT_EQ(effects::reflectRightOntoLeft(odd), odd);
 }

@@ -281,7 +281,7 @@ TEST_F(FrmIcoEdTest, TheColourAndEffectPadsChangeTheIconAndEnableWhatTheyCan) {
         EXPECT_EQ(entry("CmdEditOpts", i)->isEnabled(), i != 4 && i != 7 && i != 10) << i;
     EXPECT_FALSE(entry("CmdEffetsOpts", 1)->isEnabled());
     bool called = false;
-    m_window->setDialogCommand(FrmIcoEd::DialogEntry::Gradient, [&] { called = true; });
+    m_window->setCommand(editor::Command::Gradient, [&] { called = true; });
     choose("CmdEffets", "CmdEffetsOpts", 1);
     EXPECT_TRUE(called);
 
