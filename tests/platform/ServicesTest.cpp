@@ -4,7 +4,6 @@
 #include "platform/QtDialogs.h"
 #include "platform/ScriptedDialogs.h"
 #include "platform/SingleInstance.h"
-#include "platform/Trash.h"
 #include "shell/DataFiles.h"
 
 #include "icon/FileBytes.h"
@@ -93,6 +92,7 @@ TEST(QtDialogs, TheProgramsFiltersBecomeQtFilters) {
         {"Icônes|*.ico|Tous fichiers|*.*",
          {QStringLiteral("Icônes (*.ico)"), QStringLiteral("Tous fichiers (*.*)")}},
         {"Images|*.bmp;*.dib", {QStringLiteral("Images (*.bmp *.dib)")}},
+        {"Fichiers d'icônes (*.ico)|*.ico", {QStringLiteral("Fichiers d'icônes (*.ico)")}},
         {"", {QStringLiteral("* (*)")}},
     };
     for (const auto& c : cases)
@@ -110,24 +110,6 @@ TEST(SingleInstance, TheSecondInstanceOfAUserSeesTheFirst) {
     }
     platform::SingleInstance afterwards(name);
     EXPECT_FALSE(afterwards.anotherIsRunning()) << "the lock goes with the first instance";
-}
-
-TEST(Trash, AFileGoesToTheUsersTrashEvenBeforeTheDataFolderExists) {
-    QTemporaryDir work;
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    QDir(data).removeRecursively();
-    const QString path = work.filePath(QStringLiteral("vieille.ico"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(work.path());
-    EXPECT_TRUE(platform::moveToTrash(path));
-    QDir::setCurrent(before);
-    EXPECT_FALSE(QFileInfo::exists(path));
-    EXPECT_TRUE(QFileInfo::exists(data + QStringLiteral("/Trash/files/vieille.ico")));
-    EXPECT_FALSE(QFileInfo::exists(work.filePath(QStringLiteral("files"))))
-        << "no trash in the working folder";
 }
 
 TEST(AlsaSound, TheClickIsAShortWaveAndBrokenFilesAreRefused) {
