@@ -8,6 +8,7 @@
 #include "editor/ui/PreviewView.h"
 #include "editor/ui/ToolPadView.h"
 #include "platform/ApplyScheme.h"
+#include "platform/ClipboardViewer.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
@@ -261,6 +262,9 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_O:
         paste(true);
         break;
+    case Qt::Key_P:
+        platform::ClipboardViewer::showViewer();
+        break;
     case Qt::Key_S:
         apply(m_engine.DeleteSelection());
         break;
@@ -268,7 +272,7 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
         apply(m_engine.SelectAll());
         break;
     default:
-        // P, K and N wait for the clipboard viewer and the captures.
+        // K and N wait for the captures.
         QWidget::keyPressEvent(event);
     }
 }

@@ -7,6 +7,7 @@
 #include "effects/ui/FrmColAdj.h"
 #include "effects/ui/FrmRndIcon.h"
 #include "effects/ui/FrmShades.h"
+#include "platform/ClipboardViewer.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
@@ -106,8 +107,8 @@ void FrmIcoEd::buildPads() {
         connect(entry, &QAbstractButton::clicked, this,
                 [this, i] { runEditOption(static_cast<int>(i)); });
     }
-    // The clipboard viewer and the two captures come with their own windows.
-    for (int waiting : {4, 7, 10})
+    // The two captures come with their own windows.
+    for (int waiting : {7, 10})
         m_editPad->findChildren<platform::GradientButton*>()[waiting]->setEnabled(false);
 
     // Couleurs.
@@ -254,6 +255,9 @@ void FrmIcoEd::runEditOption(int index) {
         break;
     case 3:
         copy();
+        break;
+    case 4:
+        platform::ClipboardViewer::showViewer();
         break;
     case 5:
     case 6:

@@ -8,6 +8,7 @@
 
 #include "icon/FileBytes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
@@ -16,6 +17,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextBrowser>
 #include <QThread>
 
@@ -179,13 +181,24 @@ TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
     page.close();
     EXPECT_EQ(platform::HelpViewer::helpFolder(), data.filePath(QStringLiteral("help")));
     EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
-    QTextBrowser* viewer = nullptr;
-    for (QWidget* w : QApplication::topLevelWidgets())
-        viewer = viewer ? viewer : qobject_cast<QTextBrowser*>(w);
+    QWidget* viewer = platform::HelpViewer::window();
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(viewer->isVisible());
-    EXPECT_TRUE(viewer->toPlainText().contains(QStringLiteral("Le visualiseur.")));
-    viewer->close();
+    auto* text = viewer->findChild<QTextBrowser*>();
+    ASSERT_NE(text, nullptr);
+    EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("Le visualiseur.")));
+    // The program's look: a title button to move it, a close button, and Escape.
+    EXPECT_TRUE(viewer->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_NE(viewer->findChild<QWidget*>(QStringLiteral("CmdDeplaceFen")), nullptr);
+    QTest::keyClick(viewer, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(platform::HelpViewer::window(), nullptr);
+    EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
+    QTest::mouseClick(
+        platform::HelpViewer::window()->findChild<QAbstractButton*>(QStringLiteral("CmdFermer")),
+        Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(platform::HelpViewer::window(), nullptr);
     qunsetenv("ORVANNE_DATA_DIR");
     if (platform::HelpViewer::helpFolder().isEmpty()) {
         EXPECT_FALSE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
