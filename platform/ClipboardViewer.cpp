@@ -26,9 +26,7 @@ ClipboardViewer& ClipboardViewer::showViewer() {
     if (viewer().isNull())
         viewer() = new ClipboardViewer;
     ClipboardViewer& window = *viewer();
-    window.show();
-    window.raise();
-    window.activateWindow();
+    window.bringUp();
     return window;
 }
 

@@ -5,6 +5,7 @@
 #include "shell/DataFiles.h"
 
 #include <QFileInfo>
+#include <QPalette>
 #include <QPointer>
 #include <QTextBrowser>
 
@@ -56,12 +57,15 @@ bool HelpViewer::showPage(const QString& page) {
                 launcher().openDocument(url);
         });
         viewer->setContent(text);
+        // The pages read as a document, dark on white, whatever the interface colours.
+        QPalette paper = text->palette();
+        paper.setColor(QPalette::Base, Qt::white);
+        paper.setColor(QPalette::Text, Qt::black);
+        text->setPalette(paper);
         viewer->resize(640, 520);
     }
     browserOf(viewer)->setSource(QUrl(page));
-    viewer->show();
-    viewer->raise();
-    viewer->activateWindow();
+    viewer->bringUp();
     return true;
 }
 

@@ -5,9 +5,12 @@
 #include "platform/HelpBubbles.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
+#include "shell/WindowPlacement.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QSizeGrip>
 #include <QVBoxLayout>
 
@@ -51,6 +54,23 @@ void ToolWindow::setContent(QWidget* content) {
 void ToolWindow::setTitle(const QString& title) {
     setWindowTitle(title);
     m_title->setText(title);
+}
+
+void ToolWindow::bringUp() {
+    if (!m_placed) {
+        m_placed = true;
+        const QWidget* active = QApplication::activeWindow();
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect area = screen->availableGeometry();
+            if (active != nullptr && active != this)
+                move(shell::placeBeside(active->frameGeometry(), size(), area));
+            else
+                move(area.center() - rect().center());
+        }
+    }
+    show();
+    raise();
+    activateWindow();
 }
 
 void ToolWindow::keyPressEvent(QKeyEvent* event) {

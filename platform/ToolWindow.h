@@ -21,6 +21,9 @@ public:
     // Puts the window's own content under the title row; the window takes it.
     void setContent(QWidget* content);
     void setTitle(const QString& title);
+    // Shows the window in front. The first time it comes beside the window the user is in
+    // (never over it); afterwards where the user left it.
+    void bringUp();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -28,6 +31,7 @@ protected:
 private:
     TitleButton* m_title = nullptr;
     QVBoxLayout* m_layout = nullptr;
+    bool m_placed = false;
 };
 
 } // namespace platform

@@ -46,7 +46,12 @@ click 58 325  # Presse-papiers
 shoot e2e-clipboard-viewer
 click 161 325 # Aide
 shoot e2e-help
-xdotool mousemove 760 217 click 1 # CmdFermer of the main window
+# The help may lie over the main window: bring the main window up, then its CmdFermer.
+main=\$(xdotool search --onlyvisible --name "^Orvanne®\$" | head -1)
+xdotool windowraise \$main
+shoot e2e-before-close
+sleep 0.5
+xdotool mousemove 760 217 click 1
 status=0
 timeout 10 tail --pid=\$pid -f /dev/null || status=\$?
 if kill -0 \$pid 2>/dev/null; then
