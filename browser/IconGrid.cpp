@@ -108,6 +108,7 @@ Thumbnail IconGrid::load(const IconEntry& entry) const {
 }
 
 bool IconGrid::loadPage() {
+    bool complete = true;
     for (int k = 0; k < geometry().cellCount(); ++k) {
         const auto index = entryOfCell(k);
         if (!index)
@@ -116,12 +117,15 @@ bool IconGrid::loadPage() {
         if (m_cache.contains(entry.file))
             continue;
         Thumbnail thumbnail = load(entry);
-        // A file that has gone is never kept: it may come back before the next look.
-        if (thumbnail.state == Thumbnail::State::Missing)
-            return false;
+        // A file that has gone is never kept: it may come back before the next look. The
+        // other cells are still loaded, so that the page is whole but for the missing files.
+        if (thumbnail.state == Thumbnail::State::Missing) {
+            complete = false;
+            continue;
+        }
         m_cache.insert(entry.file, std::move(thumbnail));
     }
-    return true;
+    return complete;
 }
 
 const Thumbnail* IconGrid::cell(int cell) const {

@@ -64,7 +64,7 @@ public:
     QString countText() const; // NbrIco
 
     // Loads every visible cell that is not loaded yet. False when one of their files has gone
-    // (deleted behind the program's back): the display stops there.
+    // (deleted behind the program's back): its cell stays empty.
     bool loadPage();
     // The picture of a cell: nothing for an empty cell or one not loaded.
     const Thumbnail* cell(int cell) const;

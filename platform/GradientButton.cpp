@@ -2,6 +2,7 @@
 
 #include "platform/WindowStyle.h"
 
+#include <QFontMetrics>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
@@ -114,8 +115,23 @@ void GradientButton::paintEvent(QPaintEvent*) {
         if (!isEnabled())
             caption = QColor(128, 128, 128);
         painter.setPen(caption);
+        painter.setFont(captionFont(content.width()));
         painter.drawText(content, Qt::AlignCenter | Qt::TextSingleLine, text());
     }
+}
+
+QFont GradientButton::captionFont(int room) const {
+    // A caption a little too long for its button is drawn smaller rather than cut.
+    QFont shrunk = font();
+    if (shrunk.pointSizeF() <= 0)
+        return shrunk;
+    while (QFontMetrics(shrunk).horizontalAdvance(text()) > room && shrunk.pointSizeF() > 6)
+        shrunk.setPointSizeF(shrunk.pointSizeF() - 0.5);
+    return shrunk;
+}
+
+QFont GradientButton::captionFont() const {
+    return captionFont(rect().adjusted(4, 2, -4, -2).width());
 }
 
 void GradientButton::mousePressEvent(QMouseEvent* event) {

@@ -34,6 +34,9 @@ public:
     bool isLit() const { return m_lit; }
 
     QSize sizeHint() const override;
+    // The font the caption is drawn in: the button's own, smaller when the caption would not
+    // fit between the button's edges otherwise (a caption beside a picture may still be cut).
+    QFont captionFont() const;
 
 signals:
     // A right button press on the button: moves and commands that act on the press itself.
@@ -46,6 +49,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    QFont captionFont(int room) const;
+
     icon::Colour m_start = 0x808000;
     icon::Colour m_end = 0xE0E0E0;
     icon::Colour m_text = 0x000000;

@@ -1,48 +1,71 @@
 #include "platform/HelpViewer.h"
 
 #include "platform/Services.h"
+#include "platform/ToolWindow.h"
 #include "shell/DataFiles.h"
 
 #include <QFileInfo>
+#include <QPalette>
+#include <QPointer>
 #include <QTextBrowser>
 
 namespace platform {
 
-QPointer<QTextBrowser>& HelpViewer::window() {
-    static QPointer<QTextBrowser> viewer;
-    return viewer;
+namespace {
+
+QPointer<ToolWindow>& helpWindow() {
+    static QPointer<ToolWindow> window;
+    return window;
 }
+
+QTextBrowser* browserOf(QWidget* window) {
+    return window ? window->findChild<QTextBrowser*>(QStringLiteral("TxtAide")) : nullptr;
+}
+
+} // namespace
 
 QString HelpViewer::helpFolder() {
     const QString index = shell::DataFiles::find(QStringLiteral("help/index.html"));
     return index.isEmpty() ? QString() : QFileInfo(index).absolutePath();
 }
 
+QWidget* HelpViewer::window() {
+    return helpWindow().data();
+}
+
+QString HelpViewer::currentPage() {
+    const QTextBrowser* text = browserOf(window());
+    return text ? text->source().fileName() : QString();
+}
+
 bool HelpViewer::showPage(const QString& page) {
     const QString folder = helpFolder();
     if (folder.isEmpty())
         return false;
-    QPointer<QTextBrowser>& viewer = window();
+    QPointer<ToolWindow>& viewer = helpWindow();
     if (viewer.isNull()) {
-        viewer = new QTextBrowser;
-        viewer->setAttribute(Qt::WA_DeleteOnClose);
-        viewer->setObjectName(QStringLiteral("AideOrvanne"));
-        viewer->setWindowTitle(QStringLiteral("Aide de Orvanne®"));
-        viewer->setSearchPaths({folder});
-        viewer->setOpenExternalLinks(false);
-        viewer->setOpenLinks(false);
-        QObject::connect(viewer, &QTextBrowser::anchorClicked, viewer, [](const QUrl& url) {
+        viewer = new ToolWindow(QStringLiteral("Aide de Orvanne®"), QStringLiteral("AideOrvanne"));
+        auto* text = new QTextBrowser;
+        text->setObjectName(QStringLiteral("TxtAide"));
+        text->setSearchPaths({folder});
+        text->setOpenExternalLinks(false);
+        text->setOpenLinks(false);
+        QObject::connect(text, &QTextBrowser::anchorClicked, text, [text](const QUrl& url) {
             if (url.isRelative() || url.isLocalFile())
-                window()->setSource(url);
+                text->setSource(url);
             else
                 launcher().openDocument(url);
         });
+        viewer->setContent(text);
+        // The pages read as a document, dark on white, whatever the interface colours.
+        QPalette paper = text->palette();
+        paper.setColor(QPalette::Base, Qt::white);
+        paper.setColor(QPalette::Text, Qt::black);
+        text->setPalette(paper);
         viewer->resize(640, 520);
     }
-    viewer->setSource(QUrl(page));
-    viewer->show();
-    viewer->raise();
-    viewer->activateWindow();
+    browserOf(viewer)->setSource(QUrl(page));
+    viewer->bringUp();
     return true;
 }
 

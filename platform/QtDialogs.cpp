@@ -130,7 +130,9 @@ QStringList QtDialogs::qtFilters(const QString& filter) {
     for (int i = 0; i + 1 < parts.size(); i += 2) {
         QString patterns = parts[i + 1];
         patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
-        filters << parts[i] + QStringLiteral(" (") + patterns + QLatin1Char(')');
+        const QString shown = QStringLiteral(" (") + patterns + QLatin1Char(')');
+        // A description that already names its patterns keeps them once.
+        filters << (parts[i].endsWith(shown) ? parts[i] : parts[i] + shown);
     }
     if (filters.isEmpty())
         filters << QStringLiteral("* (*)");

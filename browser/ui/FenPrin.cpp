@@ -63,6 +63,7 @@ FenPrin::FenPrin(const ThumbnailProvider& provider, QWidget* parent)
 
     for (const char* name : kMoveCommands)
         m_ready.insert(QString::fromLatin1(name));
+    connectFileCommands();
     applyColours();
     placeGrids();
     clearGrid();
@@ -177,8 +178,14 @@ void FenPrin::fillFolderList(const QString& folder) {
 
 void FenPrin::folderItemClicked(QListWidgetItem* item) {
     hidePopUp();
-    if (item != nullptr)
-        openFolder(item->data(kPathRole).toString());
+    if (item == nullptr)
+        return;
+    const QString folder = item->data(kPathRole).toString();
+    // The open folder's own name refreshes it where it stands.
+    if (QDir::cleanPath(QDir(folder).absolutePath()) == m_folder && QFileInfo(folder).isDir())
+        reactualiser();
+    else
+        openFolder(folder);
 }
 
 void FenPrin::driveChosen(int index) {
@@ -223,15 +230,14 @@ void FenPrin::displayGrid() {
         view->update();
         view->centre().update();
     }
-    if (!complete) {
-        showFileMissing();
-        return;
-    }
     if (m_grid.count() > 0) {
         m_path->setText(m_grid.pathText());
         m_count->setText(m_grid.countText());
         enableCommands(true);
     }
+    // The grid shows what is still there; a click on the folder's name lists it again.
+    if (!complete)
+        showFileMissing();
 }
 
 void FenPrin::showFileMissing() {

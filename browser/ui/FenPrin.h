@@ -83,6 +83,17 @@ private:
     void togglePopUp();
     void placeGrids();
 
+    // The commands on the centred icon and the outside tools.
+    void connectFileCommands();
+    void copyCentred();
+    void showExplorer();
+    void renameCentred();
+    void trashCentred();
+    void copyPicture();
+    void startPaint();
+    void showClipboard();
+    void showHelp(bool browserPage);
+
     IconGrid m_grid;
     std::vector<Volume> m_volumes;
     QString m_folder;
@@ -95,6 +106,8 @@ private:
     PopUpInfos* m_popUp = nullptr;
     QSet<QString> m_ready;
     std::function<void()> m_showEditor;
+    // Where the copy dialog opens: the folder of the last copy, for the whole run.
+    QString m_copyFolder;
 };
 
 } // namespace browser::ui

@@ -108,7 +108,7 @@ void FenPrin::buildCommands() {
         {"CmdPaint", "Dessin", "Appel de Paint (Windows)"},
         {"CmdPressPap", "Presse-papiers", "Appel du presse-papiers"},
         {"CmdAide", "Aide", "Appel de l'aide générale/Appel de l'aide sur le visualiseur"},
-        {"CmdCoulFond", "Couleur fond",
+        {"CmdCoulFond", "Couleur du fond",
          "Couleur du fond de la fenêtre de visualisation/Fond de l'icône centrée"},
         {"CmdIco48", "Icônes 48x48", "Icônes en 32x32 ou en 48x48"},
     };

@@ -70,9 +70,10 @@ void IconGridView::mouseReleaseEvent(QMouseEvent* event) {
     const GridGeometry geometry = GridGeometry::of(m_view);
     const QPoint at = event->position().toPoint();
     const int cell = geometry.cellAt(at.x(), at.y());
-    // A click is a press and a release on the same cell holding an icon.
+    // A click is a press and a release on the same cell, empty or not: an empty cell moves
+    // the index as far as the list allows.
     if (event->button() == Qt::LeftButton && cell >= 0 && cell == m_pressedCell &&
-        m_grid.view() == m_view && m_grid.entryOfCell(cell))
+        m_grid.view() == m_view && m_grid.count() > 0)
         emit cellClicked(cell);
     m_pressedCell = -1;
 }

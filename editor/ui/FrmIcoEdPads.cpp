@@ -4,6 +4,7 @@
 
 #include "editor/EditorCommands.h"
 #include "editor/ui/CanvasView.h"
+#include "platform/ClipboardViewer.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
@@ -142,6 +143,7 @@ void FrmIcoEd::buildPads() {
     setCommand(Command::Paste, [this] { paste(false); });
     setCommand(Command::PasteOpaque, [this] { paste(true); });
     setCommand(Command::SixteenMillionColours, [this] { showSixteenMillionColours(); });
+    setCommand(Command::ClipboardViewer, [] { platform::ClipboardViewer::showViewer(); });
     for (const EditorCommand& command : editorCommands())
         if (command.run == nullptr && !m_commands[static_cast<std::size_t>(command.command)])
             m_entries[static_cast<std::size_t>(command.command)]->setEnabled(false);

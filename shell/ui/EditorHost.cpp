@@ -8,6 +8,7 @@
 #include "platform/GradientButton.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
+#include "shell/WindowPlacement.h"
 #include "shell/ui/Avertis.h"
 
 #include <QDir>
@@ -38,8 +39,14 @@ editor::ui::FrmIcoEd& EditorHost::editor() {
     if (!m_editor) {
         m_editor = std::make_unique<editor::ui::FrmIcoEd>(
             [this](QWidget& window) { warnAboutDepth(window); });
-        if (const QScreen* screen = QGuiApplication::primaryScreen())
-            m_editor->move(screen->availableGeometry().center() - m_editor->rect().center());
+        // It first comes beside the browser; later it comes back where the user left it.
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect area = screen->availableGeometry();
+            if (m_main != nullptr && m_main->isVisible())
+                m_editor->move(shell::placeBeside(m_main->frameGeometry(), m_editor->size(), area));
+            else
+                m_editor->move(area.center() - m_editor->rect().center());
+        }
         connectEffectDialogs(*m_editor);
     }
     return *m_editor;
@@ -62,6 +69,12 @@ void EditorHost::connectEffectDialogs(editor::ui::FrmIcoEd& window) {
         effects::ui::FrmRndIcon::run(editor->engine(), platform::dialogs(), m_random, editor);
         editor->apply(editor::kRedraw);
     });
+}
+
+bool EditorHost::closeEditor() {
+    if (!m_editor || !m_editor->isVisible())
+        return true;
+    return m_editor->close();
 }
 
 void EditorHost::warnAboutDepth(QWidget& editor) {

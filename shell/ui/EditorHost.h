@@ -38,6 +38,9 @@ public:
     void bringUpWith(const QString& path);
     // The start with "/open <path>" on the command line.
     void openAtStart(const QString& commandLine);
+    // Closes the editor when it is open, through its question about unsaved changes; false
+    // when the user chose to keep it open.
+    bool closeEditor();
 
 private:
     void warnAboutDepth(QWidget& editor);

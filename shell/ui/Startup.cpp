@@ -4,6 +4,7 @@
 #include "shell/Preferences.h"
 #include "shell/ui/Apropos.h"
 #include "shell/ui/Conseils.h"
+#include "shell/ui/MainWindowClose.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,7 @@ void Startup::showMainWindow() {
         m_main->move(screen->availableGeometry().center() - m_main->rect().center());
     m_main->openFolder(QDir::currentPath());
     m_editor.attach(*m_main);
+    new MainWindowClose(*m_main, [this] { return m_editor.closeEditor(); });
     m_main->show();
     m_splash.close();
     m_editor.openAtStart(m_commandLine);

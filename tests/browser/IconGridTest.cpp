@@ -239,8 +239,11 @@ TEST_F(IconGridTest, AFileRemovedBeforeItsPageIsShownIsReported) {
     ASSERT_TRUE(m_grid.loadPage());
     QFile::remove(QDir(path).filePath(QStringLiteral("icon0080.ico")));
     m_grid.pageNext();
-    m_grid.pageNext();
+    m_grid.pageNext(); // 85: entry 80 is cell 19
     EXPECT_FALSE(m_grid.loadPage());
+    EXPECT_EQ(m_grid.cell(19), nullptr);
+    EXPECT_NE(m_grid.cell(20), nullptr) << "the rest of the page is still shown";
+    EXPECT_NE(m_grid.cell(39), nullptr); // entry 100
 }
 
 TEST_F(IconGridTest, AFileThatIsNotAnIconLeavesItsCellBlank) {

@@ -4,11 +4,11 @@
 #include "platform/QtDialogs.h"
 #include "platform/ScriptedDialogs.h"
 #include "platform/SingleInstance.h"
-#include "platform/Trash.h"
 #include "shell/DataFiles.h"
 
 #include "icon/FileBytes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextBrowser>
 #include <QThread>
 
@@ -93,6 +94,7 @@ TEST(QtDialogs, TheProgramsFiltersBecomeQtFilters) {
         {"Icônes|*.ico|Tous fichiers|*.*",
          {QStringLiteral("Icônes (*.ico)"), QStringLiteral("Tous fichiers (*.*)")}},
         {"Images|*.bmp;*.dib", {QStringLiteral("Images (*.bmp *.dib)")}},
+        {"Fichiers d'icônes (*.ico)|*.ico", {QStringLiteral("Fichiers d'icônes (*.ico)")}},
         {"", {QStringLiteral("* (*)")}},
     };
     for (const auto& c : cases)
@@ -110,24 +112,6 @@ TEST(SingleInstance, TheSecondInstanceOfAUserSeesTheFirst) {
     }
     platform::SingleInstance afterwards(name);
     EXPECT_FALSE(afterwards.anotherIsRunning()) << "the lock goes with the first instance";
-}
-
-TEST(Trash, AFileGoesToTheUsersTrashEvenBeforeTheDataFolderExists) {
-    QTemporaryDir work;
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    QDir(data).removeRecursively();
-    const QString path = work.filePath(QStringLiteral("vieille.ico"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(work.path());
-    EXPECT_TRUE(platform::moveToTrash(path));
-    QDir::setCurrent(before);
-    EXPECT_FALSE(QFileInfo::exists(path));
-    EXPECT_TRUE(QFileInfo::exists(data + QStringLiteral("/Trash/files/vieille.ico")));
-    EXPECT_FALSE(QFileInfo::exists(work.filePath(QStringLiteral("files"))))
-        << "no trash in the working folder";
 }
 
 TEST(AlsaSound, TheClickIsAShortWaveAndBrokenFilesAreRefused) {
@@ -197,13 +181,24 @@ TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
     page.close();
     EXPECT_EQ(platform::HelpViewer::helpFolder(), data.filePath(QStringLiteral("help")));
     EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
-    QTextBrowser* viewer = nullptr;
-    for (QWidget* w : QApplication::topLevelWidgets())
-        viewer = viewer ? viewer : qobject_cast<QTextBrowser*>(w);
+    QWidget* viewer = platform::HelpViewer::window();
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(viewer->isVisible());
-    EXPECT_TRUE(viewer->toPlainText().contains(QStringLiteral("Le visualiseur.")));
-    viewer->close();
+    auto* text = viewer->findChild<QTextBrowser*>();
+    ASSERT_NE(text, nullptr);
+    EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("Le visualiseur.")));
+    // The program's look: a title button to move it, a close button, and Escape.
+    EXPECT_TRUE(viewer->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_NE(viewer->findChild<QWidget*>(QStringLiteral("CmdDeplaceFen")), nullptr);
+    QTest::keyClick(viewer, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(platform::HelpViewer::window(), nullptr);
+    EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
+    QTest::mouseClick(
+        platform::HelpViewer::window()->findChild<QAbstractButton*>(QStringLiteral("CmdFermer")),
+        Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(platform::HelpViewer::window(), nullptr);
     qunsetenv("ORVANNE_DATA_DIR");
     if (platform::HelpViewer::helpFolder().isEmpty()) {
         EXPECT_FALSE(platform::HelpViewer::showPage(QStringLiteral("index.html")));

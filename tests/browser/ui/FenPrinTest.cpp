@@ -6,6 +6,7 @@
 #include "tests/support/Screenshot.h"
 
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QListWidget>
 
 namespace {
@@ -26,6 +27,16 @@ TEST_F(FenPrinFixture, TheWindowHasItsSizeAndShowsTheFolderCountAndPath) {
     auto* drives = m_window->findChild<QComboBox*>(QStringLiteral("Lecteur"));
     EXPECT_GT(drives->count(), 0);
     EXPECT_TRUE(button("DeplaceHaut")->isEnabled());
+}
+
+TEST_F(FenPrinFixture, EveryCaptionFitsItsButton) {
+    for (auto* b : m_window->findChildren<platform::GradientButton*>()) {
+        const int room = b->width() - 8;
+        EXPECT_LE(QFontMetrics(b->captionFont()).horizontalAdvance(b->text()), room)
+            << b->objectName().toStdString() << " \"" << b->text().toStdString() << "\"";
+    }
+    EXPECT_EQ(button("CmdCoulFond")->text(), QStringLiteral("Couleur du fond"))
+        << "as the tips name it";
 }
 
 TEST_F(FenPrinFixture, ChoosingADriveOpensItsRoot) {
@@ -54,16 +65,18 @@ TEST_F(FenPrinFixture, AnEmptyFolderDisablesTheFileCommandsAndTheMoves) {
 
 TEST_F(FenPrinFixture, CommandsOfLaterWindowsAreInPlaceButDisabled) {
     m_window->openFolder(iconFolder(3));
-    for (const char* name :
-         {"CmdCOPIER", "CmdRename", "CmdSuppr", "CmdCopImg", "CmdIcoBmp", "CmdVisuBmp", "CmdDLL",
-          "CmdIcoBmpDLL", "CmdEditer", "CmdPaint", "CmdPressPap", "CmdAide"}) {
+    for (const char* name : {"CmdIcoBmp", "CmdVisuBmp", "CmdDLL", "CmdIcoBmpDLL", "CmdEditer"}) {
         ASSERT_NE(button(name), nullptr) << name;
         EXPECT_FALSE(button(name)->isEnabled()) << name;
     }
-    m_window->setCommandReady(QStringLiteral("CmdRename"));
-    EXPECT_TRUE(button("CmdRename")->isEnabled());
+    for (const char* name :
+         {"CmdCOPIER", "CmdRename", "CmdSuppr", "CmdCopImg", "CmdPaint", "CmdPressPap", "CmdAide"})
+        EXPECT_TRUE(button(name)->isEnabled()) << name;
+    m_window->setCommandReady(QStringLiteral("CmdIcoBmp"));
+    EXPECT_TRUE(button("CmdIcoBmp")->isEnabled());
     m_window->openFolder(iconFolder(0));
-    EXPECT_FALSE(button("CmdRename")->isEnabled()) << "a file command needs an icon";
+    EXPECT_FALSE(button("CmdIcoBmp")->isEnabled()) << "a file command needs an icon";
+    EXPECT_TRUE(button("CmdPaint")->isEnabled()) << "an outside tool does not";
 }
 
 TEST_F(FenPrinFixture, TheMoveButtonsWithTheirLeftAndRightButtons) {
@@ -98,6 +111,12 @@ TEST_F(FenPrinFixture, AClickOnACellCentresItsIcon) {
     EXPECT_EQ(m_window->grid().current(), 19);
     QTest::mouseClick(fond, Qt::LeftButton, {}, QPoint(8 + 36 * 6 + 3, 8 + 36 * 6 + 3)); // cell 48
     EXPECT_EQ(m_window->grid().current(), 43);
+    // An empty cell moves too, as far as the list allows.
+    click("DeplaceDebut");
+    QTest::mouseClick(fond, Qt::LeftButton, {}, QPoint(8 + 36 * 5 + 5, 8 + 36 * 4 + 5)); // 33
+    EXPECT_EQ(m_window->grid().current(), 10);
+    QTest::mouseClick(fond, Qt::LeftButton, {}, QPoint(8 + 5, 8 + 5)); // cell 0, empty
+    EXPECT_EQ(m_window->grid().current(), 1);
 }
 
 TEST_F(FenPrinFixture, TheFortyEightSwitchShowsItsGridAndRemembersIt) {
@@ -136,11 +155,14 @@ TEST_F(FenPrinFixture, AFileRemovedBehindTheProgramsBackIsReported) {
                                          "pour réactualiser la fenêtre d'affichage."));
     EXPECT_EQ(asked.icon, platform::MessageIcon::Exclamation);
     EXPECT_EQ(asked.buttons, platform::MessageButtons::Ok);
+    EXPECT_EQ(m_window->pathText(), (folder + QStringLiteral("/icon0043.ico")).toLower())
+        << "the grid shows the page it moved to";
     // A click on the open folder's name lists it again.
     auto* list = m_window->findChild<QListWidget*>(QStringLiteral("Repertoire"));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                       list->visualItemRect(list->currentItem()).center());
     EXPECT_EQ(m_window->countText(), QStringLiteral("99 icônes"));
+    EXPECT_EQ(m_window->grid().current(), 43) << "the refresh keeps the index";
     click("DeplaceHaut");
     EXPECT_EQ(m_dialogs.asked().size(), 1u);
 }

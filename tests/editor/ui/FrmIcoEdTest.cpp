@@ -3,8 +3,10 @@
 #include "editor/ui/FrmClipData.h"
 #include "icon/FileBytes.h"
 #include "icon/IcoReader.h"
+#include "platform/ClipboardViewer.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
+#include "platform/HelpViewer.h"
 #include "platform/Recorders.h"
 #include "platform/ScriptedDialogs.h"
 #include "platform/Services.h"
@@ -278,7 +280,7 @@ TEST_F(FrmIcoEdTest, TheColourAndEffectPadsChangeTheIconAndEnableWhatTheyCan) {
     // What waits for other windows stays disabled until it is given a command.
     click("CmdEdition");
     for (int i = 0; i < 11; ++i)
-        EXPECT_EQ(entry("CmdEditOpts", i)->isEnabled(), i != 4 && i != 7 && i != 10) << i;
+        EXPECT_EQ(entry("CmdEditOpts", i)->isEnabled(), i != 7 && i != 10) << i;
     EXPECT_FALSE(entry("CmdEffetsOpts", 1)->isEnabled());
     bool called = false;
     m_window->setCommand(editor::Command::Gradient, [&] { called = true; });
@@ -391,14 +393,20 @@ TEST_F(FrmIcoEdTest, TheHelpButtonsOpenTheEditorsPages) {
                  {"BasCouleur", "editeur-couleurs.html"}};
     for (const auto& c : cases) {
         click(c.button);
-        QTextBrowser* viewer = nullptr;
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == QStringLiteral("AideOrvanne"))
-                viewer = qobject_cast<QTextBrowser*>(w);
-        ASSERT_NE(viewer, nullptr) << c.button;
-        EXPECT_EQ(viewer->source().fileName(), QString::fromLatin1(c.page));
-        EXPECT_FALSE(viewer->toPlainText().isEmpty());
+        ASSERT_NE(platform::HelpViewer::window(), nullptr) << c.button;
+        EXPECT_EQ(platform::HelpViewer::currentPage(), QString::fromLatin1(c.page));
     }
+}
+
+TEST_F(FrmIcoEdTest, TheClipboardViewerComesFromTheListAndFromP) {
+    choose("CmdEdition", "CmdEditOpts", 4);
+    ASSERT_NE(platform::ClipboardViewer::current(), nullptr);
+    platform::ClipboardViewer::current()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_EQ(platform::ClipboardViewer::current(), nullptr);
+    key(Qt::Key_P);
+    ASSERT_NE(platform::ClipboardViewer::current(), nullptr);
+    platform::ClipboardViewer::current()->close();
 }
 
 TEST_F(FrmIcoEdTest, ScreenshotsWithAnIconOpenAndEachPadShown) {

@@ -3,10 +3,12 @@
 #include "browser/ui/FenPrin.h"
 #include "editor/ui/FrmIcoEd.h"
 #include "platform/GradientButton.h"
+#include "platform/HelpViewer.h"
 #include "platform/Recorders.h"
 #include "platform/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "shell/Settings.h"
+#include "shell/ui/MainWindowClose.h"
 #include "tests/support/Screenshot.h"
 #include "tests/support/TestData.h"
 
@@ -79,6 +81,33 @@ TEST_F(EditorHostTest, CmdEditerBringsTheEditorUpWithoutAPath) {
     EXPECT_FALSE(host.editor().document().hasOpenRequest());
     EXPECT_EQ(host.editor().windowTitle(), QStringLiteral("Orvanne® - Sans nom"));
     host.editor().close();
+}
+
+TEST_F(EditorHostTest, ClosingTheMainWindowClosesTheEditorThroughItsQuestionAndTheOthers) {
+    showFolder(QStringLiteral("une.ico"));
+    shell::ui::EditorHost host([] { return 32; });
+    host.attach(*m_main);
+    new shell::ui::MainWindowClose(*m_main, [&] { return host.closeEditor(); });
+    host.bringUp();
+    EXPECT_NE(host.editor().pos(), m_main->pos()) << "beside the browser, not over it";
+    host.editor().apply(host.editor().engine().applyEffect(editor::PixelEffect::Negative));
+    ASSERT_TRUE(host.editor().engine().isModified());
+    ASSERT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
+
+    m_dialogs.answer(platform::Answer::Cancel);
+    m_main->close();
+    ASSERT_EQ(m_dialogs.asked().size(), 1u);
+    EXPECT_EQ(m_dialogs.last().text, QStringLiteral("Enregistrer l'icône en cours ?"));
+    EXPECT_TRUE(m_main->isVisible()) << "Annuler keeps both open";
+    EXPECT_TRUE(host.editor().isVisible());
+    EXPECT_TRUE(platform::HelpViewer::window()->isVisible());
+
+    m_dialogs.answer(platform::Answer::No);
+    m_main->close();
+    EXPECT_FALSE(m_main->isVisible());
+    EXPECT_FALSE(host.editor().isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(platform::HelpViewer::window(), nullptr);
 }
 
 TEST_F(EditorHostTest, OpenOnTheCommandLineOpensTheEditorAtStart) {
