@@ -1,16 +1,22 @@
 #pragma once
 
+#include "browser/BmpExport.h"
 #include "browser/IconGrid.h"
+#include "browser/PickerState.h"
 #include "browser/ThumbnailProvider.h"
 #include "browser/Volumes.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QWidget>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QComboBox;
+class QLabel;
 class QListWidget;
 class QListWidgetItem;
 
@@ -23,6 +29,7 @@ namespace browser::ui {
 
 class IconGridView;
 class PopUpInfos;
+class VisuBMP;
 
 // The main window: drive and folder lists, the grid of icons around the centred one, the
 // commands on the centred icon and the pop-up panel of preferences.
@@ -49,6 +56,12 @@ public:
     void setEditorLauncher(std::function<void()> launcher) { m_showEditor = std::move(launcher); }
     // Marks a command as working: it is enabled with the other file commands.
     void setCommandReady(const QString& name);
+
+    // The icon last taken from an ANI, DLL, EXE or ICL file (`PicIcon`), and the picker's memory.
+    const icon::Frame& takenIcon() const { return m_taken; }
+    const PickerState& pickerState() const { return m_picker; }
+    // Where the picker's panel looks for the Windows system files (Wine's folders by default).
+    void setWindowsFolders(std::vector<std::filesystem::path> folders);
 
 signals:
     void aboutRequested();
@@ -82,6 +95,12 @@ private:
     void hidePopUp();
     void togglePopUp();
     void placeGrids();
+    void buildExtraction();
+    void takeIconFromFile();
+    void iconToBmp();
+    void takenIconToBmp();
+    void saveBmp(const QString& proposed, const icon::Frame& picture);
+    void showBmpViewer();
 
     IconGrid m_grid;
     std::vector<Volume> m_volumes;
@@ -95,6 +114,13 @@ private:
     PopUpInfos* m_popUp = nullptr;
     QSet<QString> m_ready;
     std::function<void()> m_showEditor;
+    PickerState m_picker;
+    std::vector<std::filesystem::path> m_windowsFolders;
+    BmpExport m_bmp;
+    QString m_bmpName;   // the name the save dialog was left with
+    icon::Frame m_taken; // PicIcon
+    QLabel* m_picIcon = nullptr;
+    QPointer<VisuBMP> m_visuBmp;
 };
 
 } // namespace browser::ui
