@@ -10,10 +10,12 @@
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTimer>
+#include <QWheelEvent>
 
 namespace browser::ui {
 
@@ -139,7 +141,9 @@ bool FrmIcons::openFile(const std::filesystem::path& file) {
     select(1);
     const QString title = picker::windowTitle(m_state.fileName(), total);
     setWindowTitle(title);
-    m_title->setText(title);
+    // A long file name is shortened in its middle on the title button, never cut at its ends.
+    m_title->setText(
+        m_title->fontMetrics().elidedText(title, Qt::ElideMiddle, m_title->width() - 12));
     // The first rows show at once; the rest of the view follows pass by pass.
     if (!decodeRowsInView())
         scheduleDecoding();
@@ -181,6 +185,11 @@ void FrmIcons::scrolled(int value) {
     m_grid->move(0, -value);
     if (!decodeRowsInView())
         scheduleDecoding();
+}
+
+void FrmIcons::wheelEvent(QWheelEvent* event) {
+    // The wheel over the grid turns the grid's bar.
+    QCoreApplication::sendEvent(m_bar, event);
 }
 
 void FrmIcons::browse() {

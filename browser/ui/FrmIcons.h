@@ -44,6 +44,9 @@ public:
     // Decodes the rows in view within one pass's budget; true when they are all there.
     bool decodeRowsInView();
 
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
 private:
     void browse();
     void scrolled(int value);

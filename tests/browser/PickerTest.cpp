@@ -109,13 +109,6 @@ TEST(WindowsFiles, LookedForInThePrefixThenItsSystemFoldersThenWinesLibraries) {
     EXPECT_EQ(WindowsFiles::find(QStringLiteral("explorer.exe"), order), std::nullopt);
 }
 
-TEST(WindowsFiles, SixteenFilesEachShownWithACapitalInitial) {
-    ASSERT_EQ(WindowsFiles::names().size(), 16);
-    EXPECT_EQ(WindowsFiles::names().front(), QStringLiteral("explorer.exe"));
-    EXPECT_EQ(WindowsFiles::names().back(), QStringLiteral("user.exe"));
-    EXPECT_EQ(WindowsFiles::caption(QStringLiteral("shell32.dll")), QStringLiteral("Shell32.dll"));
-}
-
 TEST(PickerCells, ThousandsOfGroupsSharingOneLargeImageDecodeItOnce) {
     PickerCells cells = cellsOf(testsupport::sharedIconsPe(30000, 256, 0xFF2060C0));
     ASSERT_EQ(cells.count(), 30000);

@@ -9,11 +9,13 @@
 #include "tests/support/SharedIconsPe.h"
 #include "tests/support/TestData.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -88,7 +90,10 @@ TEST_F(FrmIconsTest, SixRowsScrollOverThirtyEightPixels) {
     EXPECT_EQ(grid(*window)->height(), 228);
     EXPECT_TRUE(bar(*window)->isEnabled());
     EXPECT_EQ(bar(*window)->maximum(), 38);
-    bar(*window)->setValue(38);
+    QWheelEvent wheel(QPointF(20, 20), QPointF(20, 20), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(window.get(), &wheel);
+    EXPECT_EQ(bar(*window)->value(), 38) << "the wheel over the grid turns the bar";
     EXPECT_EQ(grid(*window)->y(), -38);
     EXPECT_TRUE(window->cells()->isDecoded(60)) << "the last row came into view";
 }
