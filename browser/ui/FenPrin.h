@@ -60,8 +60,6 @@ public:
     // The icon last taken from an ANI, DLL, EXE or ICL file (`PicIcon`), and the picker's memory.
     const icon::Frame& takenIcon() const { return m_taken; }
     const PickerState& pickerState() const { return m_picker; }
-    // Where the picker's panel looks for the Windows system files (Wine's folders by default).
-    void setWindowsFolders(std::vector<std::filesystem::path> folders);
 
 signals:
     void aboutRequested();
@@ -115,7 +113,7 @@ private:
     QSet<QString> m_ready;
     std::function<void()> m_showEditor;
     PickerState m_picker;
-    std::vector<std::filesystem::path> m_windowsFolders;
+    std::vector<std::filesystem::path> m_windowsFolders; // Wine's, for the picker's panel
     BmpExport m_bmp;
     QString m_bmpName;   // the name the save dialog was left with
     icon::Frame m_taken; // PicIcon

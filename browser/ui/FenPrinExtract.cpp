@@ -55,10 +55,6 @@ void FenPrin::buildExtraction() {
         setCommandReady(QString::fromLatin1(name));
 }
 
-void FenPrin::setWindowsFolders(std::vector<std::filesystem::path> folders) {
-    m_windowsFolders = std::move(folders);
-}
-
 void FenPrin::takeIconFromFile() {
     hidePopUp();
     FrmIcons picker(m_picker, shell::appState().preferences.colours, m_windowsFolders, this);
