@@ -54,6 +54,7 @@ FenPrin::FenPrin(const ThumbnailProvider& provider, QWidget* parent)
     buildTitleRow();
     buildLists();
     buildCommands();
+    buildExtraction();
     buildGrid();
     buildMoves();
     m_popUp = new PopUpInfos(this);

@@ -1,16 +1,22 @@
 #pragma once
 
+#include "browser/BmpExport.h"
 #include "browser/IconGrid.h"
+#include "browser/PickerState.h"
 #include "browser/ThumbnailProvider.h"
 #include "browser/Volumes.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QWidget>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QComboBox;
+class QLabel;
 class QListWidget;
 class QListWidgetItem;
 
@@ -23,6 +29,7 @@ namespace browser::ui {
 
 class IconGridView;
 class PopUpInfos;
+class VisuBMP;
 
 // The main window: drive and folder lists, the grid of icons around the centred one, the
 // commands on the centred icon and the pop-up panel of preferences.
@@ -49,6 +56,10 @@ public:
     void setEditorLauncher(std::function<void()> launcher) { m_showEditor = std::move(launcher); }
     // Marks a command as working: it is enabled with the other file commands.
     void setCommandReady(const QString& name);
+
+    // The icon last taken from an ANI, DLL, EXE or ICL file (`PicIcon`), and the picker's memory.
+    const icon::Frame& takenIcon() const { return m_taken; }
+    const PickerState& pickerState() const { return m_picker; }
 
 signals:
     void aboutRequested();
@@ -82,6 +93,12 @@ private:
     void hidePopUp();
     void togglePopUp();
     void placeGrids();
+    void buildExtraction();
+    void takeIconFromFile();
+    void iconToBmp();
+    void takenIconToBmp();
+    void saveBmp(const QString& proposed, const icon::Frame& picture);
+    void showBmpViewer();
 
     // The commands on the centred icon and the outside tools.
     void connectFileCommands();
@@ -108,6 +125,13 @@ private:
     std::function<void()> m_showEditor;
     // Where the copy dialog opens: the folder of the last copy, for the whole run.
     QString m_copyFolder;
+    PickerState m_picker;
+    std::vector<std::filesystem::path> m_windowsFolders; // Wine's, for the picker's panel
+    BmpExport m_bmp;
+    QString m_bmpName;   // the name the save dialog was left with
+    icon::Frame m_taken; // PicIcon
+    QLabel* m_picIcon = nullptr;
+    QPointer<VisuBMP> m_visuBmp;
 };
 
 } // namespace browser::ui

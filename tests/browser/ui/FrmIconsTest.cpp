@@ -1,0 +1,176 @@
+#include "browser/ui/FrmIcons.h"
+#include "browser/PickerLayout.h"
+#include "browser/ui/IcoWinPanel.h"
+#include "platform/GradientButton.h"
+#include "platform/ScriptedDialogs.h"
+#include "platform/Services.h"
+#include "platform/TitleButton.h"
+#include "tests/support/Screenshot.h"
+#include "tests/support/SharedIconsPe.h"
+#include "tests/support/TestData.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace {
+
+using browser::PickerState;
+using browser::ui::FrmIcons;
+using platform::Asked;
+namespace fs = std::filesystem;
+
+fs::path pathOf(const QString& path) {
+    return fs::path(QFile::encodeName(path).toStdString());
+}
+
+class FrmIconsTest : public ::testing::Test {
+protected:
+    fs::path writeFile(const char* name, const std::vector<std::uint8_t>& bytes) {
+        const fs::path path = pathOf(m_dir.path()) / name;
+        std::ofstream(path, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
+        return path;
+    }
+    std::unique_ptr<FrmIcons> open(const fs::path& file, std::vector<fs::path> folders = {}) {
+        m_state = PickerState::startingOn(file);
+        auto window = std::make_unique<FrmIcons>(m_state, shell::ColourScheme{}, folders);
+        window->show();
+        return window;
+    }
+    static QString info(FrmIcons& window) {
+        return window.findChild<QLabel*>(QStringLiteral("LblInfo"))->text();
+    }
+    static QWidget* grid(FrmIcons& window) {
+        return window.findChild<QWidget*>(QStringLiteral("PicIcons"));
+    }
+    static QScrollBar* bar(FrmIcons& window) {
+        return window.findChild<QScrollBar*>(QStringLiteral("Vsb"));
+    }
+    static platform::GradientButton* button(FrmIcons& window, const QString& name) {
+        return window.findChild<platform::GradientButton*>(name);
+    }
+
+    QTemporaryDir m_dir;
+    PickerState m_state;
+    platform::ScriptedDialogs m_dialogs;
+    platform::ServicesOverride m_services{&m_dialogs};
+};
+
+TEST_F(FrmIconsTest, ShowsAFilesIconsAndSelectsOnRelease) {
+    const QString firefox = testsupport::testData("pe/penet_firefox_x64.exe");
+    auto window = open(pathOf(firefox));
+    EXPECT_EQ(window->windowTitle(),
+              QStringLiteral("Orvanne® - Visualisation DLL... - penet_firefox_x64.exe - 6 icônes"));
+    EXPECT_EQ(window->findChild<platform::TitleButton*>()->text(), window->windowTitle());
+    EXPECT_EQ(info(*window), QStringLiteral("Icône n°1 sélectionnée"));
+    EXPECT_EQ(grid(*window)->height(), 190);
+    EXPECT_FALSE(bar(*window)->isEnabled());
+    EXPECT_TRUE(window->cells()->isDecoded(6));
+
+    QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(3 * 38 + 10, 10));
+    EXPECT_EQ(info(*window), QStringLiteral("Icône n°4 sélectionnée"));
+    EXPECT_EQ(window->takenIcon(), 4);
+    QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(10, 50));
+    EXPECT_EQ(window->selected(), 4) << "below the last icon nothing is selected";
+    testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons"));
+}
+
+TEST_F(FrmIconsTest, SixRowsScrollOverThirtyEightPixels) {
+    auto window = open(writeFile("soixante.dll", testsupport::sharedIconsPe(60, 32)));
+    EXPECT_EQ(grid(*window)->height(), 228);
+    EXPECT_TRUE(bar(*window)->isEnabled());
+    EXPECT_EQ(bar(*window)->maximum(), 38);
+    QWheelEvent wheel(QPointF(20, 20), QPointF(20, 20), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(window.get(), &wheel);
+    EXPECT_EQ(bar(*window)->value(), 38) << "the wheel over the grid turns the bar";
+    EXPECT_EQ(grid(*window)->y(), -38);
+    EXPECT_TRUE(window->cells()->isDecoded(60)) << "the last row came into view";
+}
+
+TEST_F(FrmIconsTest, AHugeFileDecodesOnlyTheRowsInView) {
+    auto window = open(writeFile("immense.dll", testsupport::sharedIconsPe(30000, 256)));
+    EXPECT_EQ(window->count(), 30000);
+    EXPECT_TRUE(window->cells()->isDecoded(50));
+    EXPECT_FALSE(window->cells()->isDecoded(61));
+    bar(*window)->setValue(bar(*window)->maximum());
+    EXPECT_TRUE(window->cells()->isDecoded(30000));
+    testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-immense"));
+}
+
+TEST_F(FrmIconsTest, AFileWithoutIconsIsReportedAndThePreviousOneStays) {
+    const fs::path firefox = pathOf(testsupport::testData("pe/penet_firefox_x64.exe"));
+    auto window = open(firefox);
+    const QString title = window->windowTitle();
+    const fs::path empty = pathOf(testsupport::testData("pe/aclock-x64-win64_no_resources.exe"));
+    m_dialogs.chooseFile(QFile::decodeName(QByteArray::fromStdString(empty.native())), 3);
+    QTest::mouseClick(button(*window, QStringLiteral("CmdBrowse")), Qt::LeftButton);
+
+    ASSERT_EQ(m_dialogs.asked().size(), 2u);
+    const Asked& request = m_dialogs.asked()[0];
+    EXPECT_EQ(request.kind, Asked::Kind::OpenFile);
+    EXPECT_EQ(request.title, QStringLiteral("Orvanne® - Ouvrir"));
+    EXPECT_EQ(request.file.filterIndex, 5);
+    EXPECT_EQ(pathOf(request.file.folder), firefox.parent_path());
+    EXPECT_TRUE(request.file.filter.startsWith(QStringLiteral("Tous les fichiers (*.*)|*.*|")));
+    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Orvanne®"));
+    EXPECT_EQ(m_dialogs.last().text,
+              QStringLiteral("aclock-x64-win64_no_resources.exe ne contient pas d'icône"));
+    EXPECT_EQ(window->windowTitle(), title);
+    EXPECT_EQ(m_state.file, firefox);
+    EXPECT_EQ(m_state.filterIndex, 3) << "the filter used is remembered all the same";
+
+    const QString ani = testsupport::testData("ani/breeze_wait.ani");
+    m_dialogs.chooseFile(ani, 2);
+    QTest::mouseClick(button(*window, QStringLiteral("CmdBrowse")), Qt::LeftButton);
+    EXPECT_EQ(m_state.file, pathOf(ani));
+    EXPECT_EQ(info(*window), QStringLiteral("Icône n°1 sélectionnée"));
+    QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(40, 3));
+    EXPECT_EQ(window->takenIcon(), 1) << "an animated cursor gives its first frame";
+    testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-ani"));
+}
+
+TEST_F(FrmIconsTest, ThePanelOpensTheSystemFilesFoundAndDisablesTheOthers) {
+    const fs::path windows = pathOf(m_dir.path()) / "drive_c" / "windows";
+    fs::create_directories(windows / "system32");
+    fs::copy_file(pathOf(testsupport::testData("pe/penet_firefox_x64.exe")),
+                  windows / "system32" / "shell32.dll");
+    auto window =
+        open(pathOf(testsupport::testData("pe/penet_pidgin.exe")), {windows, windows / "system32"});
+    auto* panel = window->findChild<browser::ui::IcoWinPanel*>();
+    EXPECT_FALSE(panel->isVisible());
+    QTest::mouseClick(button(*window, QStringLiteral("CmdIcoWin")), Qt::LeftButton);
+    EXPECT_TRUE(panel->isVisible());
+    testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-IcoWinOpts"));
+
+    auto* explorer = button(*window, QStringLiteral("IcoWinOpts0"));
+    EXPECT_EQ(explorer->text(), QStringLiteral("Explorer.exe"));
+    EXPECT_FALSE(explorer->isEnabled());
+    EXPECT_EQ(explorer->toolTip(),
+              browser::ui::IcoWinPanel::missingText(QStringLiteral("explorer.exe")));
+    auto* shell32 = button(*window, QStringLiteral("IcoWinOpts13"));
+    EXPECT_EQ(shell32->text(), QStringLiteral("Shell32.dll"));
+    ASSERT_TRUE(shell32->isEnabled());
+    QTest::mouseClick(shell32, Qt::LeftButton);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(m_state.file, windows / "system32" / "shell32.dll");
+    EXPECT_EQ(m_state.lastFolder, windows / "system32");
+    EXPECT_EQ(window->count(), 6);
+    EXPECT_TRUE(m_dialogs.asked().empty());
+
+    QTest::mouseClick(button(*window, QStringLiteral("CmdIcoWin")), Qt::LeftButton);
+    QTest::mouseClick(button(*window, QStringLiteral("CmdFerMnu")), Qt::LeftButton);
+    EXPECT_FALSE(panel->isVisible());
+}
+
+} // namespace
