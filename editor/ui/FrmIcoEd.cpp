@@ -267,8 +267,14 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_T:
         apply(m_engine.SelectAll());
         break;
+    case Qt::Key_K:
+        CaptureScreenArea();
+        break;
+    case Qt::Key_N:
+        captureZone();
+        break;
     default:
-        // P, K and N wait for the clipboard viewer and the captures.
+        // P waits for the clipboard viewer.
         QWidget::keyPressEvent(event);
     }
 }
@@ -316,6 +322,40 @@ void FrmIcoEd::paste(bool opaque) {
         fit = dialog.fit();
     }
     apply(m_engine.PasteClipboard(picture, opaque, fit));
+}
+
+// --- Captures -----------------------------------------------------------------------------
+
+void FrmIcoEd::setCaptureCommands(ScreenCapture screen, std::function<void()> zone) {
+    m_screenCapture = std::move(screen);
+    m_zoneCapture = std::move(zone);
+    m_captureEntries[0]->setEnabled(static_cast<bool>(m_screenCapture));
+    m_captureEntries[1]->setEnabled(static_cast<bool>(m_zoneCapture));
+}
+
+void FrmIcoEd::CaptureScreenArea() {
+    if (!m_screenCapture)
+        return;
+    hidePads();
+    apply(m_engine.DropSelection());
+    // The desktop is read without the editor on it.
+    hide();
+    const std::optional<icon::IconPlanes> planes = m_screenCapture();
+    show();
+    raise();
+    activateWindow();
+    setFocus();
+    // Giving up leaves the icon and its history as they were; a capture is one step.
+    if (planes)
+        apply(m_engine.replacePlanes(*planes));
+    refreshAll();
+}
+
+void FrmIcoEd::captureZone() {
+    if (!m_zoneCapture)
+        return;
+    hidePads();
+    m_zoneCapture();
 }
 
 // --- Palette --------------------------------------------------------------------------------

@@ -4,12 +4,14 @@
 #include "editor/IconEditor.h"
 #include "editor/ui/DialogDocumentHost.h"
 #include "effects/UniformGenerator.h"
+#include "icon/IconPlanes.h"
 
 #include <QWidget>
 
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QCheckBox;
 class QLabel;
@@ -58,6 +60,13 @@ public:
     void readCommandLine(const QString& commandLine);
     void setDialogCommand(DialogEntry entry, std::function<void()> command);
 
+    // The two captures come from the capture windows. "Capturer    Ctrl+K" hides the editor
+    // and asks `screen` for an icon made from the desktop (nothing when the user gave up);
+    // "Capturer une zone d'image    Ctrl+N" runs `zone`. An entry without its command stays
+    // disabled.
+    using ScreenCapture = std::function<std::optional<icon::IconPlanes>()>;
+    void setCaptureCommands(ScreenCapture screen, std::function<void()> zone);
+
     // Acts on what the engine answered: repaints, beeps, swatches, tool pad, palette, readout.
     void apply(Events events);
     QString positionText() const;
@@ -95,6 +104,8 @@ private:
     void cut();
     void copy();
     void paste(bool opaque);
+    void CaptureScreenArea();
+    void captureZone();
     void paletteReleased(int button, double x, double y);
     void showSixteenMillionColours();
     void showKeyboardError();
@@ -122,6 +133,9 @@ private:
     std::array<platform::GradientButton*, 4> m_mirror{};
     std::array<platform::GradientButton*, 3> m_dialogEntries{};
     std::array<std::function<void()>, 3> m_dialogCommands;
+    std::array<platform::GradientButton*, 2> m_captureEntries{};
+    ScreenCapture m_screenCapture;
+    std::function<void()> m_zoneCapture;
     // The kaleidoscope's dots, seeded from the clock once, as the window loads.
     effects::StdUniformGenerator m_random;
     QTimer* m_timer1 = nullptr;

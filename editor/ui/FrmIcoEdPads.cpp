@@ -109,6 +109,8 @@ void FrmIcoEd::buildPads() {
     // The clipboard viewer and the two captures come with their own windows.
     for (int waiting : {4, 7, 10})
         m_editPad->findChildren<platform::GradientButton*>()[waiting]->setEnabled(false);
+    m_captureEntries = {m_editPad->findChildren<platform::GradientButton*>()[7],
+                        m_editPad->findChildren<platform::GradientButton*>()[10]};
 
     // Couleurs.
     m_colourPad = buildPad("PopUpCouleur", 168, static_cast<int>(kColoursPad.size()), 240);
@@ -262,8 +264,14 @@ void FrmIcoEd::runEditOption(int index) {
     case 8:
         apply(m_engine.DeleteSelection());
         break;
+    case 7:
+        CaptureScreenArea();
+        break;
     case 9:
         apply(m_engine.SelectAll());
+        break;
+    case 10:
+        captureZone();
         break;
     default:
         break;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/ui/FrmIcoEd.h"
+#include "platform/DesktopGrab.h"
 
 #include <QObject>
 
@@ -9,6 +10,10 @@
 
 namespace browser::ui {
 class FenPrin;
+}
+
+namespace capture::ui {
+class FrmSnapShoot;
 }
 
 namespace shell::ui {
@@ -38,13 +43,25 @@ public:
     // The start with "/open <path>" on the command line.
     void openAtStart(const QString& commandLine);
 
+    // Where the captures read the desktop (the session's own way unless a test gives one).
+    void setDesktopGrabber(platform::DesktopGrabber& grabber) { m_grabber = &grabber; }
+    // The program's clipboard viewer, for the capture window's `CmdPressPap`.
+    void setClipboardViewer(std::function<void()> viewer);
+    // The capture window while it is loaded.
+    capture::ui::FrmSnapShoot* snapShoot() const { return m_snapShoot.get(); }
+
 private:
     void warnAboutDepth(QWidget& editor);
+    std::optional<icon::IconPlanes> captureIcon();
+    void showSnapShoot();
     QString currentFolder() const;
 
     std::function<int()> m_depth;
     browser::ui::FenPrin* m_main = nullptr;
     std::unique_ptr<editor::ui::FrmIcoEd> m_editor;
+    platform::DesktopGrabber* m_grabber = nullptr;
+    std::function<void()> m_clipboardViewer;
+    std::unique_ptr<capture::ui::FrmSnapShoot> m_snapShoot;
 };
 
 } // namespace shell::ui
