@@ -73,6 +73,8 @@ FrmFullScr::FrmFullScr(const QImage& desktop, CaptureZone& zone, QWidget* parent
     m_size->setObjectName(QStringLiteral("lblSize"));
     m_size->setAutoFillBackground(true);
     m_size->setMargin(2);
+    // The label never stands between the mouse and the picture.
+    m_size->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_size->move(8, 8);
     m_size->adjustSize();
 }
