@@ -79,7 +79,13 @@ sleep 0.3
 import -window root "$shots/e2e-capture-frame.png" || true
 xdotool click 1
 sleep 1
-import -window root "$shots/e2e-capture-icon.png" || true
+import -window root "$shots/e2e-capture-icon.png"
+# The canvas shows the icon ten times enlarged from (8, 32) of the editor.
+eval "$(xdotool getwindowgeometry --shell "$editor")"
+for at in "$((X + 58)) $((Y + 132))" "$((X + 278)) $((Y + 132))"; do
+    set -- $at
+    convert "$shots/e2e-capture-icon.png" -format "%[hex:p{$1,$2}] " info: >>"$work/icon.txt"
+done
 step "icon captured"
 SESSION
 timeout 90 xvfb-run -a -s "-screen 0 1024x768x24" \
@@ -95,3 +101,8 @@ case "$left/$right" in
 *) echo "zone pixels $left and $right, expected 3366CC and CC9933" >&2; exit 1 ;;
 esac
 echo "e2e: a 101x71 zone of the desktop was captured and saved with its own pixels"
+read -r left right <"$work/icon.txt" || true
+case "${left:0:6}/${right:0:6}" in
+3366CC/CC9933) echo "e2e: K took the framed 32x32 zone of the desktop into the icon" ;;
+*) echo "icon pixels $left and $right, expected 3366CC and CC9933" >&2; exit 1 ;;
+esac
