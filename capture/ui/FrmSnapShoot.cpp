@@ -18,6 +18,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace capture::ui {
 
@@ -164,6 +165,9 @@ void FrmSnapShoot::savePicture() {
     if (!choice || choice->path.isEmpty())
         return;
     QString path = choice->path;
+    // A pattern left in the name is not a file name: nothing is written.
+    if (QFileInfo(path).fileName().contains(QRegularExpression(QStringLiteral("[*?]"))))
+        return;
     // A name typed without an extension is given the bitmap one.
     if (QFileInfo(path).suffix().isEmpty())
         path += QStringLiteral(".BMP");
