@@ -8,7 +8,7 @@ packages=(
     qt6-base-dev qt6-translations-l10n
     libgtest-dev libgmock-dev libbenchmark-dev
     clang libclang-rt-14-dev
-    xvfb xauth xdotool
+    xvfb xauth xdotool imagemagick dbus-daemon
     libasound2-dev fonts-dejavu-core
 )
 

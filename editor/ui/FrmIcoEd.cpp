@@ -284,6 +284,34 @@ void FrmIcoEd::paste(bool opaque) {
     apply(m_engine.PasteClipboard(picture, opaque, fit));
 }
 
+// --- Captures -----------------------------------------------------------------------------
+
+void FrmIcoEd::setCaptureCommands(ScreenCapture screen, std::function<void()> zone) {
+    m_screenCapture = std::move(screen);
+    setCommand(Command::Capture, m_screenCapture
+                                     ? std::function<void()>([this] { CaptureScreenArea(); })
+                                     : std::function<void()>());
+    setCommand(Command::CaptureZone, std::move(zone));
+}
+
+void FrmIcoEd::CaptureScreenArea() {
+    if (!m_screenCapture)
+        return;
+    hidePads();
+    apply(m_engine.DropSelection());
+    // The desktop is read without the editor on it.
+    hide();
+    const std::optional<icon::IconPlanes> planes = m_screenCapture();
+    show();
+    raise();
+    activateWindow();
+    setFocus();
+    // Giving up leaves the icon and its history as they were; a capture is one step.
+    if (planes)
+        apply(m_engine.replacePlanes(*planes));
+    refreshAll();
+}
+
 // --- Palette --------------------------------------------------------------------------------
 
 void FrmIcoEd::paletteReleased(int button, double x, double y) {

@@ -4,12 +4,14 @@
 #include "editor/EditorCommands.h"
 #include "editor/IconEditor.h"
 #include "editor/ui/DialogDocumentHost.h"
+#include "icon/IconPlanes.h"
 
 #include <QWidget>
 
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QCheckBox;
 class QLabel;
@@ -58,6 +60,13 @@ public:
     // to run yet.
     bool runCommand(Command command, Origin origin);
 
+    // The two captures come from the capture windows. "Capturer    Ctrl+K" hides the editor
+    // and asks `screen` for an icon made from the desktop (nothing when the user gave up);
+    // "Capturer une zone d'image    Ctrl+N" runs `zone`. An entry without its command stays
+    // disabled.
+    using ScreenCapture = std::function<std::optional<icon::IconPlanes>()>;
+    void setCaptureCommands(ScreenCapture screen, std::function<void()> zone);
+
     // Acts on what the engine answered: repaints, beeps, swatches, tool pad, palette, readout.
     void apply(Events events);
     QString positionText() const;
@@ -89,6 +98,7 @@ private:
     void cut();
     void copy();
     void paste(bool opaque);
+    void CaptureScreenArea();
     void paletteReleased(int button, double x, double y);
     void showSixteenMillionColours();
     void showKeyboardError();
@@ -117,6 +127,7 @@ private:
         static_cast<std::size_t>(Command::ReflectBottomOntoTop) + 1;
     std::array<platform::GradientButton*, kCommandCount> m_entries{};
     std::array<std::function<void()>, kCommandCount> m_commands;
+    ScreenCapture m_screenCapture;
     QTimer* m_timer1 = nullptr;
 };
 

@@ -1,9 +1,13 @@
 #include "shell/ui/EditorHost.h"
 
 #include "browser/ui/FenPrin.h"
+#include "capture/CaptureTexts.h"
+#include "capture/ui/FrmSnap.h"
+#include "capture/ui/FrmSnapShoot.h"
 #include "effects/ui/FrmColAdj.h"
 #include "effects/ui/FrmRndIcon.h"
 #include "effects/ui/FrmShades.h"
+#include "platform/ClipboardViewer.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/Services.h"
@@ -23,7 +27,9 @@ constexpr int kFullColourDepth = 24;
 } // namespace
 
 EditorHost::EditorHost(std::function<int()> depth)
-    : m_depth(depth ? std::move(depth) : std::function<int()>(platform::screenDepth)) {}
+    : m_depth(depth ? std::move(depth) : std::function<int()>(platform::screenDepth))
+    , m_grabber(&platform::desktopGrabber())
+    , m_clipboardViewer([] { platform::ClipboardViewer::showViewer(); }) {}
 
 EditorHost::~EditorHost() = default;
 
@@ -48,6 +54,7 @@ editor::ui::FrmIcoEd& EditorHost::editor() {
                 m_editor->move(area.center() - m_editor->rect().center());
         }
         connectEffectDialogs(*m_editor);
+        m_editor->setCaptureCommands([this] { return captureIcon(); }, [this] { showSnapShoot(); });
     }
     return *m_editor;
 }
@@ -75,6 +82,45 @@ bool EditorHost::closeEditor() {
     if (!m_editor || !m_editor->isVisible())
         return true;
     return m_editor->close();
+}
+
+void EditorHost::setClipboardViewer(std::function<void()> viewer) {
+    m_clipboardViewer = std::move(viewer);
+    if (m_snapShoot)
+        m_snapShoot->setClipboardViewerCommand(m_clipboardViewer);
+}
+
+std::optional<icon::IconPlanes> EditorHost::captureIcon() {
+    // The editor has just hidden itself: the screen is read once it is gone.
+    platform::letWindowsVanish();
+    const platform::DesktopPicture desktop = m_grabber->grab();
+    if (!desktop.ok()) {
+        platform::Message message;
+        message.title = QString::fromUtf8(capture::kErrorTitle);
+        message.text = desktop.error;
+        message.icon = platform::MessageIcon::Exclamation;
+        platform::dialogs().message(message);
+        return std::nullopt;
+    }
+    return capture::ui::FrmSnap::run(desktop.picture, platform::dialogs());
+}
+
+void EditorHost::showSnapShoot() {
+    // A capture window that was closed is loaded afresh; an open one is only brought forward.
+    if (!m_snapShoot || !m_snapShoot->isVisible()) {
+        m_snapShoot = std::make_unique<capture::ui::FrmSnapShoot>(
+            *m_grabber, shell::appState().preferences.colours);
+        m_snapShoot->setEditorCommand([this] { bringUp(); });
+        if (m_clipboardViewer)
+            m_snapShoot->setClipboardViewerCommand(m_clipboardViewer);
+        if (const QScreen* screen = QGuiApplication::primaryScreen())
+            m_snapShoot->move(screen->availableGeometry().center() - m_snapShoot->rect().center());
+    }
+    if (m_editor)
+        m_editor->hide();
+    m_snapShoot->show();
+    m_snapShoot->raise();
+    m_snapShoot->activateWindow();
 }
 
 void EditorHost::warnAboutDepth(QWidget& editor) {

@@ -2,6 +2,7 @@
 
 #include "editor/ui/FrmIcoEd.h"
 #include "effects/UniformGenerator.h"
+#include "platform/DesktopGrab.h"
 
 #include <QObject>
 
@@ -10,6 +11,10 @@
 
 namespace browser::ui {
 class FenPrin;
+}
+
+namespace capture::ui {
+class FrmSnapShoot;
 }
 
 namespace shell::ui {
@@ -42,9 +47,19 @@ public:
     // when the user chose to keep it open.
     bool closeEditor();
 
+    // Where the captures read the desktop (the session's own way unless a test gives one).
+    void setDesktopGrabber(platform::DesktopGrabber& grabber) { m_grabber = &grabber; }
+    // The clipboard viewer of the capture window's `CmdPressPap` (the program's own unless a
+    // test gives another).
+    void setClipboardViewer(std::function<void()> viewer);
+    // The capture window while it is loaded.
+    capture::ui::FrmSnapShoot* snapShoot() const { return m_snapShoot.get(); }
+
 private:
     void warnAboutDepth(QWidget& editor);
     void connectEffectDialogs(editor::ui::FrmIcoEd& editor);
+    std::optional<icon::IconPlanes> captureIcon();
+    void showSnapShoot();
     QString currentFolder() const;
 
     std::function<int()> m_depth;
@@ -52,6 +67,9 @@ private:
     std::unique_ptr<editor::ui::FrmIcoEd> m_editor;
     // The kaleidoscope's dots, seeded from the clock once for the run.
     effects::StdUniformGenerator m_random;
+    platform::DesktopGrabber* m_grabber = nullptr;
+    std::function<void()> m_clipboardViewer;
+    std::unique_ptr<capture::ui::FrmSnapShoot> m_snapShoot;
 };
 
 } // namespace shell::ui
