@@ -3,6 +3,7 @@
 #include "platform/Services.h"
 #include "shell/DataFiles.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QTextBrowser>
 
@@ -39,6 +40,11 @@ bool HelpViewer::showPage(const QString& page) {
         });
         viewer->resize(640, 520);
     }
+    // Over a modal dialog the help must belong to the dialog, or the dialog would keep it
+    // from taking the mouse and keys.
+    if (QWidget* modal = QApplication::activeModalWidget();
+        modal != nullptr && viewer->parentWidget() != modal)
+        viewer->setParent(modal, Qt::Window);
     viewer->setSource(QUrl(page));
     viewer->show();
     viewer->raise();
