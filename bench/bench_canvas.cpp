@@ -35,10 +35,10 @@ private:
     QImage m_picture;
 };
 
-void send(QWidget* target, QEvent::Type type, QPointF at) {
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const Qt::MouseButtons held =
-        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+void send(QWidget* target, QEvent::Type type, QPointF at,
+          Qt::MouseButton pressed = Qt::LeftButton) {
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : pressed;
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : pressed;
     QMouseEvent event(type, at, target->mapToGlobal(at), button, held, Qt::NoModifier);
     QApplication::sendEvent(target, &event);
 }
@@ -77,10 +77,13 @@ void PencilPressToRepaintedCanvas(benchmark::State& state) {
     int i = 0;
     for (auto _ : state) {
         const QPointF at(15 + (i % 30) * 10, 15 + (i / 30 % 30) * 10);
-        send(canvas, QEvent::MouseButtonPress, at);
-        QCoreApplication::sendPostedEvents(&window, QEvent::UpdateRequest);
+        // Black with the left button, white with the right one on the next round: every press
+        // changes its cell.
+        const Qt::MouseButton button = (i / 900) % 2 == 0 ? Qt::LeftButton : Qt::RightButton;
+        send(canvas, QEvent::MouseButtonPress, at, button);
+        QCoreApplication::sendPostedEvents();
         state.PauseTiming();
-        send(canvas, QEvent::MouseButtonRelease, at);
+        send(canvas, QEvent::MouseButtonRelease, at, button);
         ++i;
         state.ResumeTiming();
     }
