@@ -113,14 +113,17 @@ void GradientButton::paintFace(QPainter& painter, const QRect& caption, bool sun
         const double to =
             std::clamp(((vertical ? caption.bottom() : caption.right()) + 2) / length, 0.0, 1.0);
         // At rest the other colour keeps its side of a plain gradient; pressed, it changes side.
+        // A caption as tall as the button leaves no room for the other colour.
         if (onStart == sunken) {
-            gradient.setColorAt(0, other);
+            if (from > 0)
+                gradient.setColorAt(0, other);
             gradient.setColorAt(from, band);
             gradient.setColorAt(1, band);
         } else {
             gradient.setColorAt(0, band);
             gradient.setColorAt(to, band);
-            gradient.setColorAt(1, other);
+            if (to < 1)
+                gradient.setColorAt(1, other);
         }
     }
     painter.fillRect(rect(), gradient);
