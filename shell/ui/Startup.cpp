@@ -78,6 +78,10 @@ void Startup::showMainWindow() {
     m_main->openFolder(QDir::currentPath());
     m_editor.attach(*m_main);
     m_main->show();
+    // With no control chosen for the keys, the window keeps them itself: otherwise the window
+    // system's activation hands them to the first button, which Return would then press.
+    if (m_main->focusWidget() == nullptr)
+        m_main->setFocus(Qt::OtherFocusReason);
     m_splash.close();
     m_editor.openAtStart(m_commandLine);
     report();
