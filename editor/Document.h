@@ -11,7 +11,7 @@
 namespace editor {
 
 // Who handed a path to open without a dialog.
-enum class OpenRequest { Browser, CommandLine, Recall };
+enum class OpenRequest { Browser, CommandLine, Recall, Drop };
 
 enum class SaveMode {
     Save,   // "Enregistrer": under the current name
@@ -87,7 +87,7 @@ private:
     bool m_savedOk = false;
     bool m_multiImageFile = false;
     QString m_handedPath;
-    std::bitset<3> m_requests;
+    std::bitset<4> m_requests;
     QString m_openFolder;
     bool m_recallEnabled = false;
 };

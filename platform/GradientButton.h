@@ -10,6 +10,10 @@ namespace platform {
 // The push button of every window: a gradient from the start colour to the end colour, the
 // caption in the text colour, a frame of the light colour while the mouse is over it, and an
 // optional picture. It reports the right button too, which several commands use.
+// The caption sits on whichever end of the gradient it reads best on: the gradient fades into
+// that colour outside the caption, so a caption of the start colour never lies on the start.
+// Tab reaches it (a click leaves the keyboard where it was); with the focus it shows a dotted
+// frame around its caption, and Space or Return presses it.
 class GradientButton : public QAbstractButton {
     Q_OBJECT
 public:
@@ -34,8 +38,10 @@ public:
     bool isLit() const { return m_lit; }
 
     QSize sizeHint() const override;
+    // Where the caption is drawn (empty without one), the button at rest.
+    QRect captionRect() const;
     // The font the caption is drawn in: the button's own, smaller when the caption would not
-    // fit between the button's edges otherwise (a caption beside a picture may still be cut).
+    // fit between the button's edges otherwise.
     QFont captionFont() const;
 
 signals:
@@ -47,9 +53,13 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QFont captionFont(int room) const;
+    // The area of the caption and picture, and the picture's place in it.
+    QRect contentRect(QRect* picturePlace) const;
+    void paintFace(QPainter& painter, const QRect& caption, bool sunken) const;
+    QPixmap shownPicture() const;
 
     icon::Colour m_start = 0x808000;
     icon::Colour m_end = 0xE0E0E0;

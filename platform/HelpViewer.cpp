@@ -4,6 +4,7 @@
 #include "platform/ToolWindow.h"
 #include "shell/DataFiles.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QPalette>
 #include <QPointer>
@@ -64,6 +65,11 @@ bool HelpViewer::showPage(const QString& page) {
         text->setPalette(paper);
         viewer->resize(640, 520);
     }
+    // Over a modal dialog the help must belong to the dialog, or the dialog would keep it
+    // from taking the mouse and keys.
+    if (QWidget* modal = QApplication::activeModalWidget();
+        modal != nullptr && viewer->parentWidget() != modal)
+        viewer->setParent(modal, Qt::Window);
     browserOf(viewer)->setSource(QUrl(page));
     viewer->bringUp();
     return true;

@@ -1,6 +1,6 @@
 #include "platform/Services.h"
 
-#include "platform/AlsaSound.h"
+#include "platform/CanberraSound.h"
 #include "platform/QtDialogs.h"
 
 namespace platform {
@@ -26,7 +26,7 @@ Dialogs& dialogs() {
 }
 
 Sound& sound() {
-    static AlsaSound real;
+    static CanberraSound real;
     return current().sound ? *current().sound : real;
 }
 

@@ -11,6 +11,8 @@ TitleButton::TitleButton(const QString& title, QWidget* parent)
     : GradientButton(title, parent) {
     setObjectName(QStringLiteral("CmdDeplaceFen"));
     setHelpText(*this, helpText());
+    // A handle for the mouse, not a command: Tab passes it by.
+    setFocusPolicy(Qt::NoFocus);
 }
 
 QString TitleButton::helpText() {

@@ -9,7 +9,7 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     clang libclang-rt-14-dev
     xvfb xauth xdotool imagemagick dbus-daemon
-    libasound2-dev fonts-dejavu-core
+    libcanberra-dev fonts-dejavu-core
 )
 
 missing=()

@@ -3,7 +3,11 @@
 #include "editor/IconEditor.h"
 
 #include <QImage>
+#include <QRegion>
 #include <QWidget>
+
+#include <optional>
+#include <vector>
 
 namespace editor::ui {
 
@@ -20,7 +24,8 @@ public:
 
     explicit CanvasView(IconEditor& engine, QWidget* parent = nullptr);
 
-    // Renders the planes again and repaints.
+    // Renders again the cells that changed since the last call and repaints only them (and the
+    // figure being dragged and the frame, where they were and where they are).
     void refresh();
     const QImage& picture() const { return m_picture; }
 
@@ -36,11 +41,18 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void render();
+    // Renders the cells that differ from what the picture shows; the area they cover.
+    QRegion render();
+    void renderCell(int cx, int cy, icon::Colour mask, icon::Colour colour);
     void updatePointer(double x, double y);
 
     IconEditor& m_engine;
     QImage m_picture;
+    // What the picture and the last paint show, to repaint only what changes.
+    icon::IconPlanes m_shown;
+    bool m_rendered = false;
+    std::vector<PaintedCell> m_band;
+    std::optional<CanvasRect> m_frame;
 };
 
 } // namespace editor::ui

@@ -4,7 +4,9 @@
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
+#include "platform/HelpViewer.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 
@@ -51,6 +53,10 @@ FrmClipData::FrmClipData(QSize picture, QWidget* parent)
     cancel->setGeometry(242, 146, 80, 24);
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
 
+    platform::setWindowKeys(*this, {ok, cancel, [] {
+                                        platform::HelpViewer::showPage(
+                                            QStringLiteral("editeur-edition.html"));
+                                    }});
     platform::applyScheme(*this);
     for (QRadioButton* option : {m_proportional, m_square})
         platform::setTextColour(

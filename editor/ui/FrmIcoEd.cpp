@@ -1,5 +1,6 @@
 #include "editor/ui/FrmIcoEd.h"
 
+#include "editor/DroppedIcon.h"
 #include "editor/PadTexts.h"
 #include "editor/ui/CanvasView.h"
 #include "editor/ui/Edges.h"
@@ -14,6 +15,7 @@
 #include "platform/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 #include "shell/Settings.h"
@@ -22,10 +24,14 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPainter>
 #include <QTimer>
+#include <QUrl>
 
 namespace editor::ui {
 
@@ -55,8 +61,16 @@ FrmIcoEd::FrmIcoEd(LoadNotice notice, QWidget* parent)
     buildTitleRow();
     buildWorkArea();
     buildPads();
-    for (QWidget* child : findChildren<QWidget*>())
-        child->setFocusPolicy(Qt::NoFocus);
+    // The letter keys belong to the window; only the buttons take the focus, through Tab.
+    for (QWidget* child : findChildren<QWidget*>()) {
+        if (qobject_cast<platform::GradientButton*>(child) == nullptr)
+            child->setFocusPolicy(Qt::NoFocus);
+    }
+    platform::setWindowKeys(*this, {nullptr, nullptr, [this] {
+                                        showHelp(3);
+                                    }});
+    // An icon file dropped from a file manager opens as with the Fichier pad.
+    setAcceptDrops(true);
 
     m_timer1 = new QTimer(this);
     m_timer1->setObjectName(QStringLiteral("Timer1"));
@@ -213,6 +227,36 @@ void FrmIcoEd::readCommandLine(const QString& commandLine) {
         return;
     m_document->handOver(*path, OpenRequest::CommandLine);
     runFileCommand([this] { return m_document->OpenIcon(); }, FileCommand::Open);
+}
+
+void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
+    if (droppedPath(event->mimeData()))
+        event->acceptProposedAction();
+}
+
+void FrmIcoEd::dropEvent(QDropEvent* event) {
+    const auto path = droppedPath(event->mimeData());
+    if (!path)
+        return;
+    event->acceptProposedAction();
+    // The drop is answered first: the file manager must not wait on the unsaved-changes prompt.
+    const QString file = QFile::decodeName(QByteArray::fromStdString(path->native()));
+    QTimer::singleShot(0, this, [this, file] {
+        activateWindow();
+        m_document->handOver(file, OpenRequest::Drop);
+        runFileCommand([this] { return m_document->OpenIcon(); }, FileCommand::Open);
+    });
+}
+
+std::optional<std::filesystem::path> FrmIcoEd::droppedPath(const QMimeData* data) {
+    if (data == nullptr || !data->hasUrls())
+        return std::nullopt;
+    std::vector<std::filesystem::path> files;
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile())
+            files.emplace_back(QFile::encodeName(url.toLocalFile()).toStdString());
+    }
+    return droppedIcon(files);
 }
 
 void FrmIcoEd::runFileCommand(const std::function<bool()>& command, FileCommand kind) {

@@ -9,12 +9,14 @@
 #include <QWidget>
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
 
 class QCheckBox;
 class QLabel;
+class QMimeData;
 class QTimer;
 
 namespace platform {
@@ -77,8 +79,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
+    static std::optional<std::filesystem::path> droppedPath(const QMimeData* data);
     void load();
     void buildTitleRow();
     void buildWorkArea();

@@ -19,11 +19,13 @@ void PreviewView::paintEvent(QPaintEvent*) {
     const icon::Frame shown = icon::composeOver(icon::fromPlanes(m_engine.displayedPlanes()),
                                                 m_engine.previewBackground());
     QImage picture(icon::kIconSize, icon::kIconSize, QImage::Format_RGB32);
-    for (int y = 0; y < icon::kIconSize; ++y)
+    for (int y = 0; y < icon::kIconSize; ++y) {
+        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
         for (int x = 0; x < icon::kIconSize; ++x) {
             const icon::Colour c = shown.at(x, y);
-            picture.setPixel(x, y, qRgb(icon::redOf(c), icon::greenOf(c), icon::blueOf(c)));
+            line[x] = qRgb(icon::redOf(c), icon::greenOf(c), icon::blueOf(c));
         }
+    }
     QPainter painter(this);
     painter.drawImage(1, 1, picture);
     drawEdge(painter, rect(), true);

@@ -7,7 +7,9 @@
 #include "platform/Dialogs.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 
 #include <QLabel>
@@ -98,6 +100,10 @@ FrmColAdj::FrmColAdj(ColourAdjuster adjuster, QWidget* parent)
     platform::setHelpText(*cancel, QStringLiteral("Fermer sans modifier l'icône"));
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
 
+    platform::setWindowKeys(*this, {ok, cancel, [] {
+                                        platform::HelpViewer::showPage(
+                                            QStringLiteral("editeur-couleurs.html"));
+                                    }});
     platform::applyScheme(*this);
 }
 

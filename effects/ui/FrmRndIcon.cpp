@@ -7,7 +7,9 @@
 #include "platform/Dialogs.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 
@@ -77,6 +79,10 @@ FrmRndIcon::FrmRndIcon(platform::Dialogs& dialogs, UniformGenerator& random, QWi
     platform::setHelpText(*cancel, QStringLiteral("Fermer sans modifier l'icône"));
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
 
+    platform::setWindowKeys(*this, {ok, cancel, [] {
+                                        platform::HelpViewer::showPage(
+                                            QStringLiteral("editeur-effets.html"));
+                                    }});
     platform::applyScheme(*this);
     showPreview();
 }

@@ -7,7 +7,9 @@
 #include "platform/Dialogs.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 
 #include <QLabel>
@@ -116,6 +118,10 @@ FrmShades::FrmShades(QWidget* parent)
     platform::setHelpText(*cancel, QStringLiteral("Fermer sans modifier l'icône"));
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
 
+    platform::setWindowKeys(*this, {ok, cancel, [] {
+                                        platform::HelpViewer::showPage(
+                                            QStringLiteral("editeur-effets.html"));
+                                    }});
     platform::applyScheme(*this);
     m_picture->setPicture(m_preview.picture());
 }

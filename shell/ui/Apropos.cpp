@@ -3,8 +3,10 @@
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 #include "shell/DataFiles.h"
@@ -53,6 +55,10 @@ Apropos::Apropos(QWidget* parent)
     platform::setHelpText(*close, QStringLiteral("Fermer"));
     connect(close, &QAbstractButton::clicked, this, &QDialog::accept);
 
+    platform::setWindowKeys(*this,
+                            {close, close, [] {
+                                 platform::HelpViewer::showPage(QStringLiteral("index.html"));
+                             }});
     platform::applyScheme(*this);
     m_timer.setObjectName(QStringLiteral("Minuterie1"));
     m_timer.setInterval(40);

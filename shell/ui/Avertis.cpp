@@ -4,8 +4,10 @@
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
+#include "platform/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/Settings.h"
 
@@ -59,6 +61,10 @@ Avertis::Avertis(QWidget* parent)
     cancel->setGeometry(312, 158, 80, 24);
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
 
+    platform::setWindowKeys(*this,
+                            {ok, cancel, [] {
+                                 platform::HelpViewer::showPage(QStringLiteral("editeur.html"));
+                             }});
     platform::applyScheme(*this);
     m_check->setChecked(Settings().read(keys::kDepthWarning, QStringLiteral("Oui")) ==
                         QLatin1String("Non"));

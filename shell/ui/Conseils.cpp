@@ -4,7 +4,9 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 #include "shell/DataFiles.h"
@@ -71,6 +73,10 @@ Conseils::Conseils(QWidget* parent, std::function<double()> random, const QStrin
     ok->setGeometry(364, 190, 58, 24);
     connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
 
+    platform::setWindowKeys(*this,
+                            {ok, nullptr, [] {
+                                 platform::HelpViewer::showPage(QStringLiteral("index.html"));
+                             }});
     platform::applyScheme(*this);
     m_check->setChecked(Preferences::loadTipsAtStart(Settings()));
     if (!m_random) {

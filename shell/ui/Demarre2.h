@@ -15,7 +15,7 @@ public:
     // The question asked when the program already runs: true to go on.
     static bool askForSecondInstance();
     // Shows the splash and starts its timer.
-    void start(int milliseconds = 700);
+    void start(int milliseconds = 0);
 
 signals:
     void timeUp();

@@ -18,8 +18,7 @@ class Startup : public QObject {
 public:
     // The command line is the program's arguments joined by spaces; "/open <path>" opens that
     // icon in the editor once the main window is up.
-    explicit Startup(const browser::ThumbnailProvider& provider, int splashMilliseconds = 700,
-                     const QString& commandLine = {});
+    explicit Startup(const browser::ThumbnailProvider& provider, const QString& commandLine = {});
     ~Startup() override;
 
     // False when another instance runs and the user chose not to start a new one.
@@ -37,9 +36,9 @@ private:
     void showTipsAtStart();
     void showAbout();
     void report() const;
+    void reportFirstPaint();
 
     const browser::ThumbnailProvider& m_provider;
-    int m_splashMilliseconds;
     QString m_commandLine;
     Demarre2 m_splash;
     std::unique_ptr<browser::ui::FenPrin> m_main;

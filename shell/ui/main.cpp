@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     const browser::IcoThumbnailProvider provider;
     // The arguments after the program's name, joined by spaces, are its command line.
     const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));
-    shell::ui::Startup startup(provider, 700, commandLine);
+    shell::ui::Startup startup(provider, commandLine);
     if (!startup.begin(instance.anotherIsRunning()))
         return 0;
     return QApplication::exec();

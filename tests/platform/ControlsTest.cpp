@@ -1,16 +1,21 @@
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 
 #include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace {
 
@@ -42,7 +47,7 @@ TEST(GradientButton, ClicksWithTheLeftButtonAndReportsTheRightOne) {
     EXPECT_EQ(right.count(), 1);
 }
 
-TEST(GradientButton, LightsUpUnderTheMouseAndPaintsItsColours) {
+TEST(GradientButton, LightsUpUnderTheMouse) {
     QWidget window;
     window.resize(120, 44);
     auto* button = new platform::GradientButton(QStringLiteral("Aide"), &window);
@@ -52,16 +57,106 @@ TEST(GradientButton, LightsUpUnderTheMouseAndPaintsItsColours) {
     QEnterEvent enterEvent(QPointF(5, 5), QPointF(5, 5), QPointF(15, 15));
     QApplication::sendEvent(button, &enterEvent);
     EXPECT_TRUE(button->isLit());
-    const QImage picture = button->grab().toImage();
-    const QColor top = picture.pixelColor(50, 3);
-    const QColor bottom = picture.pixelColor(50, 20);
-    EXPECT_GT(top.red(), 200) << "the red start at the top";
-    EXPECT_LT(top.blue(), 60);
-    EXPECT_GT(bottom.blue(), bottom.red()) << "the blue end at the bottom";
-    EXPECT_EQ(picture.pixelColor(1, 12), QColor(0, 255, 0)) << "the light frame";
+    EXPECT_EQ(button->grab().toImage().pixelColor(1, 12), QColor(0, 255, 0)) << "the light frame";
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(button, &leave);
     EXPECT_FALSE(button->isLit());
+}
+
+TEST(GradientButton, TheCaptionLiesOnTheEndItReadsBestOn) {
+    // Colours are 0x00BBGGRR. The other end of the gradient keeps its side at rest and changes
+    // side when the button is pressed.
+    struct Case {
+        icon::Colour start, end, text;
+        QColor band, other;
+    };
+    const Case cases[] = {
+        {0x808000, 0xE0E0E0, 0x808000, QColor(224, 224, 224), QColor(0, 128, 128)}, // teal text
+        {0x808000, 0xE0E0E0, 0xFFFFFF, QColor(0, 128, 128), QColor(224, 224, 224)}, // white text
+        {0x0000FF, 0xFF0000, 0xFFFFFF, QColor(0, 0, 255), QColor(255, 0, 0)},       // on blue
+    };
+    for (const Case& c : cases) {
+        platform::GradientButton button(QStringLiteral("Enregistrer"));
+        button.resize(120, 40);
+        button.setColours(c.start, c.end, c.text, 0x00FF00);
+        const QRect caption = button.captionRect();
+        ASSERT_FALSE(caption.isEmpty());
+        for (bool pressed : {false, true}) {
+            button.setDown(pressed);
+            const QImage picture = button.grab().toImage();
+            for (int y = caption.top(); y <= caption.bottom(); ++y)
+                EXPECT_EQ(picture.pixelColor(3, y), c.band) << "row " << y << " " << pressed;
+            const bool otherOnTop = pressed == (c.band.rgb() == platform::toQColor(c.start).rgb());
+            const QColor edge = picture.pixelColor(3, otherOnTop ? 1 : 38);
+            const auto distance = [](QColor a, QColor b) {
+                return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+                       std::abs(a.blue() - b.blue());
+            };
+            EXPECT_LT(distance(edge, c.other), distance(edge, c.band)) << pressed;
+        }
+    }
+}
+
+TEST(GradientButton, TabReachesTheButtonsWhichShowItAndTakeReturn) {
+    QWidget window;
+    window.resize(240, 60);
+    auto* title = new platform::TitleButton(QStringLiteral("Titre"), &window);
+    title->setGeometry(0, 0, 240, 20);
+    auto* first = new platform::GradientButton(QStringLiteral("Un"), &window);
+    first->setGeometry(10, 30, 100, 24);
+    auto* second = new platform::GradientButton(QStringLiteral("Deux"), &window);
+    second->setGeometry(120, 30, 100, 24);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QImage unfocused = second->grab().toImage();
+
+    window.setFocus();
+    QTest::keyClick(&window, Qt::Key_Tab);
+    EXPECT_TRUE(first->hasFocus()) << "the title button is passed by";
+    QTest::keyClick(first, Qt::Key_Tab);
+    ASSERT_TRUE(second->hasFocus());
+    EXPECT_NE(second->grab().toImage(), unfocused) << "the focus shows";
+
+    QSignalSpy clicked(second, &QAbstractButton::clicked);
+    QTest::keyClick(second, Qt::Key_Return);
+    QTest::keyClick(second, Qt::Key_Space);
+    EXPECT_EQ(clicked.count(), 2);
+
+    QTest::mouseClick(first, Qt::LeftButton);
+    EXPECT_TRUE(second->hasFocus()) << "a click leaves the focus where it was";
+}
+
+TEST(WindowKeys, ReturnEscapeAndF1ReachTheirCommandsWhereverTheFocusIs) {
+    QDialog dialog;
+    auto* field = new QLineEdit(&dialog);
+    auto* ok = new platform::GradientButton(QStringLiteral("OK"), &dialog);
+    auto* cancel = new platform::GradientButton(QStringLiteral("Annuler"), &dialog);
+    int helps = 0;
+    platform::setWindowKeys(dialog, {ok, cancel, [&helps] {
+                                         ++helps;
+                                     }});
+    QSignalSpy okClicked(ok, &QAbstractButton::clicked);
+    QSignalSpy cancelClicked(cancel, &QAbstractButton::clicked);
+    dialog.show();
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::keyClick(field, Qt::Key_Enter, Qt::KeypadModifier);
+    QTest::keyClick(field, Qt::Key_Escape);
+    QTest::keyClick(field, Qt::Key_F1);
+    QTest::keyClick(field, Qt::Key_Return, Qt::ControlModifier); // not OK
+    EXPECT_EQ(okClicked.count(), 2);
+    EXPECT_EQ(cancelClicked.count(), 1);
+    EXPECT_EQ(helps, 1);
+    EXPECT_TRUE(dialog.isVisible()) << "the buttons decide, not the keys";
+
+    cancel->setEnabled(false);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(okClicked.count(), 3);
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(cancelClicked.count(), 1);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_FALSE(dialog.isVisible()) << "without a Cancel button Escape cancels the dialog";
 }
 
 TEST(TitleButton, MovesTheWindowWhenTheWindowSystemDoesNot) {

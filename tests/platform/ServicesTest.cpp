@@ -1,12 +1,10 @@
 #include "platform/Services.h"
-#include "platform/AlsaSound.h"
+#include "platform/CanberraSound.h"
 #include "platform/HelpViewer.h"
 #include "platform/QtDialogs.h"
 #include "platform/ScriptedDialogs.h"
 #include "platform/SingleInstance.h"
 #include "shell/DataFiles.h"
-
-#include "icon/FileBytes.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -114,31 +112,10 @@ TEST(SingleInstance, TheSecondInstanceOfAUserSeesTheFirst) {
     EXPECT_FALSE(afterwards.anotherIsRunning()) << "the lock goes with the first instance";
 }
 
-TEST(AlsaSound, TheClickIsAShortWaveAndBrokenFilesAreRefused) {
-    const QString path = shell::DataFiles::find(QStringLiteral("clic.wav"));
-    ASSERT_FALSE(path.isEmpty());
-    const auto bytes = icon::readFileBytes(path);
-    ASSERT_TRUE(bytes);
-    platform::AlsaSound::Wave wave;
-    ASSERT_TRUE(platform::AlsaSound::parseWave(*bytes, wave));
-    EXPECT_EQ(wave.channels, 1);
-    EXPECT_GT(wave.samples.size(), 100u);
-    EXPECT_LT(wave.samples.size(), static_cast<std::size_t>(wave.rate)) << "under a second";
-
-    for (std::size_t cut : {0, 11, 30, 44, 60}) {
-        std::vector<std::uint8_t> truncated(bytes->begin(),
-                                            bytes->begin() + static_cast<long>(cut));
-        platform::AlsaSound::Wave w;
-        EXPECT_FALSE(platform::AlsaSound::parseWave(truncated, w)) << cut;
-    }
-    std::vector<std::uint8_t> eightBit = *bytes;
-    eightBit[34] = 8;
-    platform::AlsaSound::Wave w;
-    EXPECT_FALSE(platform::AlsaSound::parseWave(eightBit, w));
-}
-
-TEST(AlsaSound, TheClickReachesTheSoundDevice) {
-    // The user's ALSA configuration (in the test's private home) sends the sound to a file.
+TEST(CanberraSound, TheClickReachesTheSoundOutput) {
+    // No sound server here: the sound library goes through ALSA, whose configuration (in the
+    // test's private home) sends the sound to a file.
+    qputenv("CANBERRA_DRIVER", "alsa");
     const QString home = QDir::homePath();
     const QString output = home + QStringLiteral("/clic.raw");
     QFile config(home + QStringLiteral("/.asoundrc"));
@@ -146,25 +123,27 @@ TEST(AlsaSound, TheClickReachesTheSoundDevice) {
     config.write("pcm.!default { type file; slave.pcm \"null\"; file \"" + output.toUtf8() +
                  "\"; format \"raw\" }\n");
     config.close();
-    const auto bytes = icon::readFileBytes(shell::DataFiles::find(QStringLiteral("clic.wav")));
-    ASSERT_TRUE(bytes);
-    platform::AlsaSound::Wave wave;
-    ASSERT_TRUE(platform::AlsaSound::parseWave(*bytes, wave));
-    const qint64 expected = static_cast<qint64>(wave.samples.size() * 2);
 
-    platform::AlsaSound sound;
-    sound.playClick();
-    QFile played(output);
-    for (int i = 0; i < 250 && played.size() < expected; ++i)
-        QThread::msleep(20);
-    EXPECT_EQ(played.size(), expected) << "every sample of the click, 16 bits each";
+    {
+        platform::CanberraSound sound;
+        sound.playClick();
+        QFile played(output);
+        for (int i = 0; i < 250 && played.size() < 200; ++i)
+            QThread::msleep(20);
+        EXPECT_GT(played.size(), 200) << "the click's samples went to the output";
+    }
     QFile::remove(config.fileName());
+    qunsetenv("CANBERRA_DRIVER");
 }
 
-TEST(AlsaSound, PlayingWithoutASoundDeviceReturnsAndDoesNothing) {
-    platform::AlsaSound sound;
-    for (int i = 0; i < 3; ++i)
-        sound.playClick();
+TEST(CanberraSound, WithoutAnyOutputTheClickIsDroppedQuietly) {
+    // The test machine has neither a sound server nor a sound card.
+    {
+        platform::CanberraSound sound;
+        for (int i = 0; i < 3; ++i)
+            sound.playClick();
+        QThread::msleep(50);
+    }
     SUCCEED();
 }
 

@@ -20,10 +20,12 @@
 #include <QClipboard>
 #include <QFile>
 #include <QLabel>
+#include <QMimeData>
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -382,17 +384,55 @@ TEST_F(FrmIcoEdTest, OpenOnTheCommandLineFindsTheFileWhateverTheCase) {
     EXPECT_EQ(shell::Settings().read(shell::keys::kLastIcon), real);
 }
 
+TEST_F(FrmIcoEdTest, AnIconDroppedOnTheWindowOpensThroughTheUnsavedChangesPrompt) {
+    const QString world = copyOf(QStringLiteral("qt_WORLD.ico"));
+    const QString text = m_dir.filePath(QStringLiteral("lisez-moi.txt"));
+    QFile(text).open(QIODevice::WriteOnly);
+    const auto drop = [this](const QString& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        const QPointF at(150, 150);
+        QDragEnterEvent enter(at.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(m_window.get(), &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent dropped(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(m_window.get(), &dropped);
+        QTest::qWait(10);
+        return true;
+    };
+    EXPECT_FALSE(drop(text));
+    EXPECT_FALSE(drop(m_dir.path()));
+
+    chooseTool(editor::Tool::Pencil);
+    drag({{15, 15}});
+    m_dialogs.answer(platform::Answer::Cancel);
+    ASSERT_TRUE(drop(world));
+    ASSERT_EQ(m_dialogs.asked().size(), 1u);
+    EXPECT_EQ(lastMessage().text, QStringLiteral("Enregistrer l'icône en cours ?"));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("Orvanne® - Sans nom"));
+
+    m_dialogs.answer(platform::Answer::No);
+    ASSERT_TRUE(drop(world));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("Orvanne® - qt_WORLD.ico"));
+    EXPECT_EQ(m_window->document().iconPath(), world);
+}
+
 TEST_F(FrmIcoEdTest, TheHelpButtonsOpenTheEditorsPages) {
     const struct {
         const char* button;
         const char* page;
     } cases[] = {{"CmdAide", "editeur.html"},
+                 {nullptr, "editeur.html"}, // F1
                  {"BasFichier", "editeur-fichier.html"},
                  {"BasEdition", "editeur-edition.html"},
                  {"BasEffets", "editeur-effets.html"},
                  {"BasCouleur", "editeur-couleurs.html"}};
     for (const auto& c : cases) {
-        click(c.button);
+        if (c.button != nullptr)
+            click(c.button);
+        else
+            key(Qt::Key_F1);
         ASSERT_NE(platform::HelpViewer::window(), nullptr) << c.button;
         EXPECT_EQ(platform::HelpViewer::currentPage(), QString::fromLatin1(c.page));
     }

@@ -11,8 +11,10 @@
 #include "shell/AppState.h"
 #include "tests/support/Screenshot.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -112,6 +114,19 @@ TEST_F(EffectDialogs, EveryDialogIsFramelessInTheInterfaceColoursWithItsTitleBut
         EXPECT_EQ(dialog->palette().color(QPalette::Window), QColor(0x40, 0x30, 0x20));
         QWidget* title = child(*dialog, QStringLiteral("CmdDeplaceFen"));
         EXPECT_EQ(platform::helpTextOf(*title), QStringLiteral("Déplacement de la fenêtre"));
+        // Return is OK and Escape Cancel.
+        QAbstractButton* cancel = nullptr;
+        for (auto* button : dialog->findChildren<QAbstractButton*>())
+            if (button->text() == QStringLiteral("Annuler"))
+                cancel = button;
+        ASSERT_NE(cancel, nullptr);
+        QSignalSpy ok(child<QAbstractButton>(*dialog, QStringLiteral("CmdOK")),
+                      &QAbstractButton::clicked);
+        QSignalSpy cancelled(cancel, &QAbstractButton::clicked);
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        EXPECT_EQ(ok.count(), 1);
+        EXPECT_EQ(cancelled.count(), 1);
     }
 }
 

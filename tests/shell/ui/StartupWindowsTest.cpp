@@ -76,7 +76,7 @@ TEST_F(StartupWindows, Demarre2ShowsItsLabels) {
 
 TEST_F(StartupWindows, NoToTheSecondInstanceEndsTheStart) {
     browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider, 1);
+    shell::ui::Startup startup(provider);
     m_dialogs.answer(platform::Answer::No);
     EXPECT_FALSE(startup.begin(true));
     EXPECT_FALSE(startup.splash().isVisible());
@@ -89,7 +89,7 @@ TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());
     browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider, 1);
+    shell::ui::Startup startup(provider);
     QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
     m_dialogs.onModal(
         [](QDialog& tips) { EXPECT_EQ(tips.objectName(), QStringLiteral("Conseils")); });
@@ -107,7 +107,7 @@ TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
 TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
     shell::Settings().save(shell::keys::kTipsAtStart, QStringLiteral("Non"));
     browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider, 1);
+    shell::ui::Startup startup(provider);
     QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
     ASSERT_TRUE(startup.begin(false));
     ASSERT_TRUE(shown.wait(3000));
@@ -134,6 +134,11 @@ TEST_F(StartupWindows, ConseilsShowsARandomTipAndGoesRound) {
     EXPECT_EQ(tips.tipText(), QStringLiteral("Deuxième conseil"));
     click(tips, "CmdNextTip");
     EXPECT_EQ(tips.tipText(), QStringLiteral("Troisième conseil"));
+    // Return is its OK.
+    tips.show();
+    QTest::keyClick(&tips, Qt::Key_Return);
+    EXPECT_FALSE(tips.isVisible());
+    EXPECT_EQ(tips.result(), QDialog::Accepted);
 }
 
 TEST_F(StartupWindows, ConseilsCheckBoxWritesTheTipsFlag) {
