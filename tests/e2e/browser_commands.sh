@@ -62,7 +62,7 @@ fi
 exit \$status
 SESSION
 
-timeout 120 xvfb-run -a -s "-screen 0 1024x768x24" bash "$work/session.sh"
+xvfb_run 120 bash "$work/session.sh"
 fail() { echo "$1" >&2; exit 1; }
 cmp -s "$folder/neuf.ico" "$work/copies/copie.ico" || fail "no copy of the first icon"
 [ ! -e "$folder/a.ico" ] && [ -e "$folder/neuf.ico" ] || fail "a.ico was not renamed neuf.ico"

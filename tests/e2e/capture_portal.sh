@@ -81,7 +81,7 @@ SESSION
 
 for portal in yes no; do
     rm -f "$work/result.txt"
-    timeout 90 xvfb-run -a -s "-screen 0 1024x768x24" \
+    xvfb_run 90 \
         bash "$work/session.sh" "$work" "$program" "$fake_portal" "$screenshots" "$portal"
     [ -s "$work/result.txt" ] || { echo "the session with portal=$portal ended early" >&2; exit 1; }
     result=$(cat "$work/result.txt")

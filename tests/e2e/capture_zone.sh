@@ -88,7 +88,7 @@ for at in "$((X + 58)) $((Y + 132))" "$((X + 278)) $((Y + 132))"; do
 done
 step "icon captured"
 SESSION
-timeout 90 xvfb-run -a -s "-screen 0 1024x768x24" \
+xvfb_run 90 \
     bash "$work/session.sh" "$work" "$program" "$screenshots"
 
 [ -f "$work/zone.bmp" ] || { echo "the zone was not saved" >&2; exit 1; }

@@ -1,6 +1,15 @@
 # Shared by the end-to-end tests (sourced): a new user's home, and a run of the real program
 # under Xvfb that waits until its main window reports what it shows.
 
+# xvfb_run SECONDS COMMAND...: runs COMMAND on a private X server of 1024x768 at 24 bits, ended
+# after SECONDS. The server number is searched from a random start: two sessions started at
+# once (other test runs on the same machine) would otherwise both take the first free number.
+xvfb_run() {
+    local seconds=$1
+    shift
+    timeout "$seconds" xvfb-run -a -n $((100 + RANDOM % 800)) -s "-screen 0 1024x768x24" "$@"
+}
+
 # Makes $work: a temporary folder, removed at exit, with a fresh home and runtime folder.
 new_user() {
     work=$(mktemp -d)
@@ -32,7 +41,7 @@ fi
 kill $pid 2>/dev/null || true
 wait $pid 2>/dev/null || true
 SESSION
-    timeout 60 xvfb-run -a -s "-screen 0 1024x768x24" bash "$work/session.sh" "$work" "$@"
+    xvfb_run 60 bash "$work/session.sh" "$work" "$@"
     if [ ! -s "$work/report.txt" ]; then
         echo "the program's main window never came up" >&2
         return 1

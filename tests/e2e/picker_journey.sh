@@ -74,7 +74,7 @@ kill \$pid 2>/dev/null || true
 wait \$pid 2>/dev/null || true
 SESSION
 
-timeout 120 xvfb-run -a -s "-screen 0 1024x768x24" bash "$work/session.sh"
+xvfb_run 120 bash "$work/session.sh"
 for bmp in prise centre; do
     [ -s "$work/bmp/$bmp.bmp" ] || { echo "$bmp.bmp was not written" >&2; exit 1; }
 done

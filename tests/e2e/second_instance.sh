@@ -35,6 +35,6 @@ kill \$first 2>/dev/null || true
 exit \$status
 SESSION
 
-timeout 60 xvfb-run -a -s "-screen 0 1024x768x24" bash "$work/session.sh"
+xvfb_run 60 bash "$work/session.sh"
 grep -qx "NbrIco: Dossier vide..." "$work/first.txt"
 echo "e2e: a second start asked first and ended on the default answer"
