@@ -2,7 +2,6 @@
 #include "platform/AlsaSound.h"
 #include "platform/HelpViewer.h"
 #include "platform/QtDialogs.h"
-#include "platform/ScriptedDialogs.h"
 #include "platform/SingleInstance.h"
 #include "platform/Trash.h"
 #include "shell/DataFiles.h"
@@ -11,7 +10,6 @@
 
 #include <QApplication>
 #include <QCoreApplication>
-#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -24,65 +22,6 @@
 
 namespace {
 
-using platform::Answer;
-using platform::MessageButtons;
-
-TEST(ScriptedDialogs, AnswersInOrderAndRecordsWhatWasAsked) {
-    platform::ScriptedDialogs scripted;
-    platform::ServicesOverride services(&scripted);
-    scripted.answer(Answer::Yes);
-    scripted.chooseColourValue(0x0000FF);
-    scripted.chooseFile(QStringLiteral("/tmp/a.ico"), 2);
-
-    platform::Message message{QStringLiteral("Orvanne®"), QStringLiteral("un\ndeux"),
-                              platform::MessageIcon::Exclamation, MessageButtons::YesNo, 2};
-    EXPECT_EQ(platform::dialogs().message(message), Answer::Yes);
-    EXPECT_EQ(platform::dialogs().chooseColour(0x808000), std::optional<icon::Colour>(0x0000FF));
-    const auto file = platform::dialogs().saveFile(
-        {QStringLiteral("Copier l'icône"), {}, {}, QStringLiteral("Icônes|*.ico"), 1});
-    ASSERT_TRUE(file);
-    EXPECT_EQ(file->path, QStringLiteral("/tmp/a.ico"));
-    EXPECT_EQ(file->filterIndex, 2);
-
-    ASSERT_EQ(scripted.asked().size(), 3u);
-    EXPECT_EQ(scripted.asked()[0].text, QStringLiteral("un\ndeux"));
-    EXPECT_EQ(scripted.asked()[0].defaultButton, 2);
-    EXPECT_EQ(scripted.asked()[1].colour, 0x808000u);
-    EXPECT_EQ(scripted.asked()[2].title, QStringLiteral("Copier l'icône"));
-}
-
-TEST(ScriptedDialogs, WithNothingScriptedMessagesGetTheirDefaultAndDialogsAreCancelled) {
-    platform::ScriptedDialogs scripted;
-    const struct {
-        MessageButtons buttons;
-        int preferred;
-        Answer expected;
-    } cases[] = {{MessageButtons::Ok, 1, Answer::Ok},
-                 {MessageButtons::YesNo, 2, Answer::No},
-                 {MessageButtons::YesNo, 1, Answer::Yes},
-                 {MessageButtons::OkCancel, 2, Answer::Cancel},
-                 {MessageButtons::YesNoCancel, 3, Answer::Cancel},
-                 {MessageButtons::YesNo, 9, Answer::No}};
-    for (const auto& c : cases) {
-        platform::Message m;
-        m.buttons = c.buttons;
-        m.defaultButton = c.preferred;
-        EXPECT_EQ(scripted.message(m), c.expected);
-    }
-    EXPECT_FALSE(scripted.chooseColour(0));
-    EXPECT_FALSE(scripted.openFile({}));
-    EXPECT_FALSE(scripted.chooseFolder(QStringLiteral("t"), QStringLiteral("/")));
-    QDialog window;
-    window.setObjectName(QStringLiteral("FenRen"));
-    EXPECT_EQ(scripted.runModal(window), QStringLiteral("Cancelled"));
-    EXPECT_FALSE(window.isVisible());
-    scripted.onModal([](QDialog& shown) {
-        EXPECT_TRUE(shown.isVisible());
-        shown.accept();
-    });
-    EXPECT_EQ(scripted.runModal(window), QStringLiteral("Ok"));
-    EXPECT_EQ(scripted.last().title, QStringLiteral("FenRen"));
-}
 
 TEST(QtDialogs, TheProgramsFiltersBecomeQtFilters) {
     const struct {
@@ -175,13 +114,6 @@ TEST(AlsaSound, TheClickReachesTheSoundDevice) {
         QThread::msleep(20);
     EXPECT_EQ(played.size(), expected) << "every sample of the click, 16 bits each";
     QFile::remove(config.fileName());
-}
-
-TEST(AlsaSound, PlayingWithoutASoundDeviceReturnsAndDoesNothing) {
-    platform::AlsaSound sound;
-    for (int i = 0; i < 3; ++i)
-        sound.playClick();
-    SUCCEED();
 }
 
 TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
