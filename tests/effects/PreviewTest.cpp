@@ -31,9 +31,7 @@ TEST(GradientPreview, BarsAreKeptInRangeAndOnlyADrawingOrADirectionRedraws) {
     preview.redraw();
     EXPECT_EQ(preview.picture(), Gradient::render(rgb(200, 0, 0), rgb(255, 255, 7), 0));
 
-    const struct {
-        int asked, kept, angle;
-    } directions[] = {{3, 3, 135}, {-1, 0, 0}, {9, 8, 360}};
+    const struct { int asked, kept, angle; } directions[] = {{3, 3, 135}, {-1, 0, 0}, {9, 8, 360}};
     for (const auto& d : directions) {
         preview.setBar(0, d.asked < 0 ? 10 : 20); // a bar moved since the last drawing
         preview.setDirection(d.asked);

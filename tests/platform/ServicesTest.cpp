@@ -22,7 +22,6 @@
 
 namespace {
 
-
 TEST(QtDialogs, TheProgramsFiltersBecomeQtFilters) {
     const struct {
         const char* filter;

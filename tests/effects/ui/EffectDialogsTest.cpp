@@ -6,10 +6,10 @@
 #include "effects/ui/FrmShades.h"
 #include "effects/ui/PreviewPicture.h"
 #include "platform/HelpBubbles.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 
 #include <QLabel>
 #include <QScrollBar>
