@@ -364,13 +364,6 @@ TEST_F(FrmIcoEdTest, ACentreIconHandedOverOpensFromTheFichierPadAndWarnsAtItsSav
     EXPECT_EQ(m_dialogs.asked()[1].file.fileName, QStringLiteral("*.ico"));
 }
 
-TEST_F(FrmIcoEdTest, OpenOnTheCommandLineFindsTheFileWhateverTheCase) {
-    const QString real = copyOf(QStringLiteral("moz_ico-size-32x32-8bpp.ico"), "petite.ico");
-    m_window->readCommandLine(QStringLiteral("/OPEN ") + real.toUpper());
-    EXPECT_EQ(m_window->document().iconPath(), real);
-    EXPECT_EQ(shell::Settings().read(shell::keys::kLastIcon), real);
-}
-
 TEST_F(FrmIcoEdTest, TheHelpButtonsOpenTheEditorsPages) {
     const struct {
         const char* button;

@@ -113,10 +113,6 @@ TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
     ASSERT_TRUE(shown.wait(3000));
     QTest::qWait(20);
     EXPECT_TRUE(m_dialogs.asked().empty());
-    startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdApropos"))->click();
-    EXPECT_EQ(
-        startup.mainWindow()->findChild<QAbstractButton*>(QStringLiteral("CmdConseilDem"))->text(),
-        QStringLiteral("Conseils au démarrage"));
 }
 
 TEST_F(StartupWindows, ConseilsShowsTheTipChosenAndNextAndOkReachTheTips) {
