@@ -5,6 +5,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/Trash.h"
 #include "shell/DataFiles.h"
+#include "tests/support/TestData.h"
 
 #include "icon/FileBytes.h"
 
@@ -55,9 +56,7 @@ TEST(Trash, AFileGoesToTheUsersTrashEvenBeforeTheDataFolderExists) {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     QDir(data).removeRecursively();
     const QString path = work.filePath(QStringLiteral("vieille.ico"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
+    ASSERT_TRUE(testsupport::writeFile(path, {}));
     const QString before = QDir::currentPath();
     QDir::setCurrent(work.path());
     EXPECT_TRUE(platform::moveToTrash(path));
@@ -95,11 +94,10 @@ TEST(AlsaSound, TheClickReachesTheSoundDevice) {
     // The user's ALSA configuration (in the test's private home) sends the sound to a file.
     const QString home = QDir::homePath();
     const QString output = home + QStringLiteral("/clic.raw");
-    QFile config(home + QStringLiteral("/.asoundrc"));
-    ASSERT_TRUE(config.open(QIODevice::WriteOnly));
-    config.write("pcm.!default { type file; slave.pcm \"null\"; file \"" + output.toUtf8() +
-                 "\"; format \"raw\" }\n");
-    config.close();
+    const QString config = home + QStringLiteral("/.asoundrc");
+    ASSERT_TRUE(
+        testsupport::writeFile(config, "pcm.!default { type file; slave.pcm \"null\"; file \"" +
+                                           output.toUtf8() + "\"; format \"raw\" }\n"));
     const auto bytes = icon::readFileBytes(shell::DataFiles::find(QStringLiteral("clic.wav")));
     ASSERT_TRUE(bytes);
     platform::AlsaSound::Wave wave;
@@ -112,7 +110,7 @@ TEST(AlsaSound, TheClickReachesTheSoundDevice) {
     for (int i = 0; i < 250 && played.size() < expected; ++i)
         QThread::msleep(20);
     EXPECT_EQ(played.size(), expected) << "every sample of the click, 16 bits each";
-    QFile::remove(config.fileName());
+    QFile::remove(config);
 }
 
 TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
@@ -122,10 +120,9 @@ TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
         ~Unset() { qunsetenv("ORVANNE_DATA_DIR"); }
     } unset;
     QDir(data.path()).mkpath(QStringLiteral("help"));
-    QFile page(data.filePath(QStringLiteral("help/index.html")));
-    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-    page.write("<html><body><h1>Aide de Orvanne</h1><p>Le visualiseur.</p></body></html>");
-    page.close();
+    ASSERT_TRUE(testsupport::writeFile(
+        data.filePath(QStringLiteral("help/index.html")),
+        "<html><body><h1>Aide de Orvanne</h1><p>Le visualiseur.</p></body></html>"));
     EXPECT_EQ(platform::HelpViewer::helpFolder(), data.filePath(QStringLiteral("help")));
     EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
     QTextBrowser* viewer = nullptr;

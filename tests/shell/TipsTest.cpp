@@ -1,7 +1,7 @@
 #include "shell/Tips.h"
 #include "shell/DataFiles.h"
+#include "tests/support/TestData.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -10,9 +10,7 @@ namespace {
 
 QString writeTips(const QTemporaryDir& dir, const QByteArray& content) {
     const QString path = dir.filePath(QStringLiteral("Conseils.txt"));
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
+    testsupport::writeFile(path, content);
     return path;
 }
 

@@ -118,10 +118,7 @@ TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
 TEST_F(StartupWindows, ConseilsShowsTheTipChosenAndNextAndOkReachTheTips) {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("Conseils.txt"));
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write("Premier conseil\nDeuxième conseil\nTroisième conseil\n");
-    file.close();
+    testsupport::writeFile(path, "Premier conseil\nDeuxième conseil\nTroisième conseil\n");
     shell::ui::Conseils tips(
         nullptr, [] { return 0.5; }, path);
     EXPECT_EQ(tips.tipText(), QStringLiteral("Deuxième conseil"));
