@@ -155,10 +155,7 @@ TEST_F(DocumentTest, SavingOverAFileOfSeveralImagesWarnsAndCancelAsksForANewName
 
 TEST_F(DocumentTest, AFileThatIsNotAPictureChangesNothing) {
     const QString bad = m_dir.filePath(QStringLiteral("court.ico"));
-    QFile file(bad);
-    file.open(QIODevice::WriteOnly);
-    file.write("\0\0\1\0\1", 5);
-    file.close();
+    testsupport::writeFile(bad, QByteArray("\0\0\1\0\1", 5));
     draw();
     const icon::IconPlanes before = m_engine.planes();
     m_host.paths = {bad};

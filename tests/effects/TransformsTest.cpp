@@ -26,13 +26,6 @@ IconBitmap block(int width, std::vector<icon::Colour> colours) {
     return b;
 }
 
-IconBitmap patternedIcon() {
-    std::vector<icon::Colour> colours;
-    for (int i = 0; i < 32 * 32; ++i)
-        colours.push_back(i % 7 == 0 ? 0 : static_cast<icon::Colour>(i * 2654435761u) & 0xFFFFFF);
-    return block(32, colours);
-}
-
 struct MapCase {
     const char* name;
     IconBitmap (*transform)(const IconBitmap&);
@@ -53,18 +46,6 @@ TEST(Transforms, MapEveryPixelOfASmallBlock) {
     };
     for (const MapCase& c : cases)
         EXPECT_EQ(c.transform(source), c.expected) << c.name;
-}
-
-TEST(Transforms, GiveTheIconBackWhenUndoneByThemselves) {
-    const IconBitmap icon = patternedIcon();
-    EXPECT_EQ(turnLeft(turnLeft(turnLeft(turnLeft(icon)))), icon);
-    EXPECT_EQ(turnRight(turnRight(turnRight(turnRight(icon)))), icon);
-    EXPECT_EQ(turnRight(turnLeft(icon)), icon);
-    EXPECT_EQ(flipHorizontal(flipHorizontal(icon)), icon);
-    EXPECT_EQ(flipVertical(flipVertical(icon)), icon);
-    EXPECT_NE(turnLeft(icon), icon);
-    // Two quarter turns make a half turn, whichever way.
-    EXPECT_EQ(turnLeft(turnLeft(icon)), flipVertical(flipHorizontal(icon)));
 }
 
 TEST(Transforms, HalfReflectionsCopyOneHalfOntoTheOther) {

@@ -22,8 +22,7 @@ namespace {
 TEST(Twips, FifteenToAPixel) {
     const struct {
         int twips, pixels;
-    } cases[] = {{7860, 524}, {5440, 363}, {3285, 219}, {840, 56},
-                 {4000, 267}, {240, 16},   {15, 1},     {0, 0}};
+    } cases[] = {{7860, 524}, {5440, 363}, {3285, 219}, {15, 1}, {0, 0}};
     for (const auto& c : cases)
         EXPECT_EQ(platform::twips(c.twips), c.pixels) << c.twips;
 }

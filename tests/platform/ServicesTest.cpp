@@ -2,14 +2,13 @@
 #include "platform/CanberraSound.h"
 #include "platform/HelpViewer.h"
 #include "platform/QtDialogs.h"
-#include "platform/ScriptedDialogs.h"
 #include "platform/SingleInstance.h"
 #include "shell/DataFiles.h"
+#include "tests/support/TestData.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCoreApplication>
-#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,66 +21,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-using platform::Answer;
-using platform::MessageButtons;
-
-TEST(ScriptedDialogs, AnswersInOrderAndRecordsWhatWasAsked) {
-    platform::ScriptedDialogs scripted;
-    platform::ServicesOverride services(&scripted);
-    scripted.answer(Answer::Yes);
-    scripted.chooseColourValue(0x0000FF);
-    scripted.chooseFile(QStringLiteral("/tmp/a.ico"), 2);
-
-    platform::Message message{QStringLiteral("Orvanne®"), QStringLiteral("un\ndeux"),
-                              platform::MessageIcon::Exclamation, MessageButtons::YesNo, 2};
-    EXPECT_EQ(platform::dialogs().message(message), Answer::Yes);
-    EXPECT_EQ(platform::dialogs().chooseColour(0x808000), std::optional<icon::Colour>(0x0000FF));
-    const auto file = platform::dialogs().saveFile(
-        {QStringLiteral("Copier l'icône"), {}, {}, QStringLiteral("Icônes|*.ico"), 1});
-    ASSERT_TRUE(file);
-    EXPECT_EQ(file->path, QStringLiteral("/tmp/a.ico"));
-    EXPECT_EQ(file->filterIndex, 2);
-
-    ASSERT_EQ(scripted.asked().size(), 3u);
-    EXPECT_EQ(scripted.asked()[0].text, QStringLiteral("un\ndeux"));
-    EXPECT_EQ(scripted.asked()[0].defaultButton, 2);
-    EXPECT_EQ(scripted.asked()[1].colour, 0x808000u);
-    EXPECT_EQ(scripted.asked()[2].title, QStringLiteral("Copier l'icône"));
-}
-
-TEST(ScriptedDialogs, WithNothingScriptedMessagesGetTheirDefaultAndDialogsAreCancelled) {
-    platform::ScriptedDialogs scripted;
-    const struct {
-        MessageButtons buttons;
-        int preferred;
-        Answer expected;
-    } cases[] = {{MessageButtons::Ok, 1, Answer::Ok},
-                 {MessageButtons::YesNo, 2, Answer::No},
-                 {MessageButtons::YesNo, 1, Answer::Yes},
-                 {MessageButtons::OkCancel, 2, Answer::Cancel},
-                 {MessageButtons::YesNoCancel, 3, Answer::Cancel},
-                 {MessageButtons::YesNo, 9, Answer::No}};
-    for (const auto& c : cases) {
-        platform::Message m;
-        m.buttons = c.buttons;
-        m.defaultButton = c.preferred;
-        EXPECT_EQ(scripted.message(m), c.expected);
-    }
-    EXPECT_FALSE(scripted.chooseColour(0));
-    EXPECT_FALSE(scripted.openFile({}));
-    EXPECT_FALSE(scripted.chooseFolder(QStringLiteral("t"), QStringLiteral("/")));
-    QDialog window;
-    window.setObjectName(QStringLiteral("FenRen"));
-    EXPECT_EQ(scripted.runModal(window), QStringLiteral("Cancelled"));
-    EXPECT_FALSE(window.isVisible());
-    scripted.onModal([](QDialog& shown) {
-        EXPECT_TRUE(shown.isVisible());
-        shown.accept();
-    });
-    EXPECT_EQ(scripted.runModal(window), QStringLiteral("Ok"));
-    EXPECT_EQ(scripted.last().title, QStringLiteral("FenRen"));
-}
 
 TEST(QtDialogs, TheProgramsFiltersBecomeQtFilters) {
     const struct {
@@ -154,10 +93,9 @@ TEST(HelpViewer, ShowsTheProgramsOwnPagesAndSaysWhenThereAreNone) {
         ~Unset() { qunsetenv("ORVANNE_DATA_DIR"); }
     } unset;
     QDir(data.path()).mkpath(QStringLiteral("help"));
-    QFile page(data.filePath(QStringLiteral("help/index.html")));
-    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-    page.write("<html><body><h1>Aide de Orvanne</h1><p>Le visualiseur.</p></body></html>");
-    page.close();
+    ASSERT_TRUE(testsupport::writeFile(
+        data.filePath(QStringLiteral("help/index.html")),
+        "<html><body><h1>Aide de Orvanne</h1><p>Le visualiseur.</p></body></html>"));
     EXPECT_EQ(platform::HelpViewer::helpFolder(), data.filePath(QStringLiteral("help")));
     EXPECT_TRUE(platform::HelpViewer::showPage(QStringLiteral("index.html")));
     QWidget* viewer = platform::HelpViewer::window();

@@ -1,7 +1,7 @@
 #include "shell/Tips.h"
 #include "shell/DataFiles.h"
+#include "tests/support/TestData.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -10,9 +10,7 @@ namespace {
 
 QString writeTips(const QTemporaryDir& dir, const QByteArray& content) {
     const QString path = dir.filePath(QStringLiteral("Conseils.txt"));
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
+    testsupport::writeFile(path, content);
     return path;
 }
 
@@ -46,25 +44,21 @@ TEST(Tips, NextGoesRoundAndLinesAreKeptAsTheyAre) {
     EXPECT_EQ(tips.current(), QStringLiteral("deuxième"));
 }
 
-TEST(Tips, AMissingFileIsReportedWithTheProgramsText) {
-    shell::Tips tips;
-    EXPECT_FALSE(tips.load(QStringLiteral("/nonexistent/Conseils.txt")));
-    EXPECT_FALSE(tips.load(QString()));
-    tips.next();
-    EXPECT_EQ(tips.index(), 0);
+TEST(Tips, AMissingOrEmptyFileGivesNoTipAndNothingFails) {
+    QTemporaryDir dir;
+    const QString empty = writeTips(dir, "");
+    for (const QString& path : {QStringLiteral("/nonexistent/Conseils.txt"), QString(), empty}) {
+        shell::Tips tips;
+        EXPECT_EQ(tips.load(path), path == empty) << path.toStdString();
+        tips.chooseFirst(0.5);
+        tips.next();
+        EXPECT_TRUE(tips.isEmpty());
+        EXPECT_EQ(tips.index(), 0);
+        EXPECT_EQ(tips.current(), QString());
+    }
     EXPECT_EQ(shell::Tips::missingFileText(),
               QStringLiteral("Le fichier Conseils.txt n'a pas été trouvé.\r\n\r\nVous n'auriez pas "
                              "dû le supprimer du dossier de Orvanne®"));
-}
-
-TEST(Tips, AnEmptyFileGivesNoTipAndNothingFails) {
-    QTemporaryDir dir;
-    shell::Tips tips;
-    EXPECT_TRUE(tips.load(writeTips(dir, "")));
-    tips.chooseFirst(0.5);
-    tips.next();
-    EXPECT_TRUE(tips.isEmpty());
-    EXPECT_EQ(tips.current(), QString());
 }
 
 TEST(Tips, TheProgramsOwnTipsAreThereAndPlenty) {

@@ -29,6 +29,16 @@ std::vector<std::uint8_t> fileBytes(const QString& path) {
     return {data.begin(), data.end()};
 }
 
+bool writeFile(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !file.flush()) {
+        ADD_FAILURE() << "cannot write " << path.toStdString();
+        return false;
+    }
+    return true;
+}
+
 QString screenshotFolder() {
     return QStringLiteral(ORVANNE_SCREENSHOTS);
 }

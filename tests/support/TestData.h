@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -14,6 +15,8 @@ QString testData(const QString& relative);
 QStringList testFiles(const QString& relativeFolder);
 // Whole content of a file; fails the current test when it cannot be read.
 std::vector<std::uint8_t> fileBytes(const QString& path);
+// Writes a whole file, replacing it; fails the current test when it cannot be written.
+bool writeFile(const QString& path, const QByteArray& content);
 // Folder where window tests save their screenshots.
 QString screenshotFolder();
 

@@ -2,7 +2,7 @@
 #include "browser/PickerLayout.h"
 #include "browser/ui/IcoWinPanel.h"
 #include "platform/GradientButton.h"
-#include "platform/ScriptedDialogs.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "tests/support/Screenshot.h"

@@ -1,6 +1,6 @@
 #include "capture/ui/FrmSnapShoot.h"
 #include "editor/ui/FrmIcoEd.h"
-#include "platform/ScriptedDialogs.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "shell/ui/EditorHost.h"
 #include "tests/support/FakeDesktopGrabber.h"

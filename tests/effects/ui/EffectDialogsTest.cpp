@@ -6,10 +6,10 @@
 #include "effects/ui/FrmShades.h"
 #include "effects/ui/PreviewPicture.h"
 #include "platform/HelpBubbles.h"
-#include "platform/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -130,62 +130,41 @@ TEST_F(EffectDialogs, EveryDialogIsFramelessInTheInterfaceColoursWithItsTitleBut
     }
 }
 
-TEST_F(EffectDialogs, ColourAdjustmentKeepsFrozenChannelsAndAppliesOnOk) {
+TEST_F(EffectDialogs, ColourAdjustmentBarsResetOkAndCancelReachTheAdjuster) {
     m_engine.SelectAll();
     m_dialogs.onModal([this](QDialog& dialog) {
         // The selection is settled before the dialog shows.
         EXPECT_EQ(m_engine.selectionState(), editor::SelectionState::None);
-        EXPECT_EQ(dialog.objectName(), QStringLiteral("FrmColAdj"));
-        // Red 253 goes to 263 behind a preview that stays at 253, while green and blue move
-        // on; the red bar then works on the same shared value, and the preview follows only
-        // once it is back in range.
         spin(dialog, QStringLiteral("VsbBrightness"), true, 2);
         EXPECT_EQ(text(dialog, QStringLiteral("LblBrightness")), QStringLiteral("10"));
-        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 0, 0), rgb(253, 10, 110));
-        spin(dialog, QStringLiteral("VsbRed"), false);
-        EXPECT_EQ(text(dialog, QStringLiteral("LblRed")), QStringLiteral("-5"));
-        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 0, 0), rgb(253, 10, 110));
-        spin(dialog, QStringLiteral("VsbRed"), false, 3);
-        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 0, 0), rgb(243, 10, 110));
-        testsupport::saveScreenshot(dialog, QStringLiteral("FrmColAdj"));
-        click(dialog, QStringLiteral("CmdOK"));
-    });
-    EXPECT_EQ(FrmColAdj::run(m_engine, m_dialogs), kOk);
-    const icon::IconPlanes& after = m_engine.planes();
-    EXPECT_EQ(after.image.at(0, 0), rgb(243, 10, 110));
-    EXPECT_EQ(after.image.at(31, 31), rgb(238, 253, 110)); // from (248, 248, 100)
-    // A transparent pixel keeps its colour and its mask.
-    EXPECT_EQ(after.image.at(1, 0), rgb(1, 2, 3));
-    EXPECT_EQ(after.mask.at(1, 0), icon::kWhite);
-    expectOneStep();
-}
-
-TEST_F(EffectDialogs, ColourAdjustmentTakesOneStepPerChangeResetsAndCancels) {
-    m_dialogs.onModal([](QDialog& dialog) {
-        // A jump to the end of the bar is still one change, so one step of 5.
+        // A jump to the end of a bar is one change: one step of 5 for the preview.
         auto* green = child<QAbstractSlider>(dialog, QStringLiteral("VsbGreen"));
         green->setFocus();
         QTest::keyClick(green, Qt::Key_End);
         EXPECT_EQ(text(dialog, QStringLiteral("LblGreen")), QStringLiteral("255"));
-        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 2, 3), rgb(16, 29, 100));
+        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 2, 3), rgb(26, 39, 110));
+        testsupport::saveScreenshot(dialog, QStringLiteral("FrmColAdj"));
+        click(dialog, QStringLiteral("CmdOK"));
+    });
+    EXPECT_EQ(FrmColAdj::run(m_engine, m_dialogs), kOk);
+    EXPECT_EQ(m_engine.planes().image.at(2, 3), rgb(26, 39, 110));
+    EXPECT_EQ(m_engine.planes().image.at(1, 0), rgb(1, 2, 3)) << "transparent pixels kept";
+    expectOneStep();
 
+    m_engine.loadIcon(m_icon);
+    m_dialogs.onModal([](QDialog& dialog) {
+        spin(dialog, QStringLiteral("VsbRed"), true);
         click(dialog, QStringLiteral("CmdReset"));
         for (const char* name : {"VsbBrightness", "VsbRed", "VsbGreen", "VsbBlue"})
             EXPECT_EQ(child<QAbstractSlider>(dialog, QString::fromLatin1(name))->value(), 0);
-        EXPECT_EQ(text(dialog, QStringLiteral("LblGreen")), QStringLiteral("0"));
-        const QImage reset = preview(dialog, QStringLiteral("PicShade"));
-        EXPECT_EQ(pixel(reset, 2, 3), rgb(16, 24, 100));
-        EXPECT_EQ(pixel(reset, 1, 0), icon::kWhite); // the reset paints transparent pixels white
-        // After the reset a step starts again from the icon's own colours.
-        spin(dialog, QStringLiteral("VsbBlue"), true);
-        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 2, 3), rgb(16, 24, 105));
+        EXPECT_EQ(pixel(preview(dialog, QStringLiteral("PicShade")), 2, 3), rgb(16, 24, 100));
         click(dialog, QStringLiteral("CmdAnnul"));
     });
     EXPECT_EQ(FrmColAdj::run(m_engine, m_dialogs), kCancelled);
     expectUntouched();
 }
 
-TEST_F(EffectDialogs, KaleidoscopeDensityColourAndPatternReachTheIcon) {
+TEST_F(EffectDialogs, KaleidoscopeControlsReachThePreviewAndOkLaysItUnderTheIcon) {
     const Colour viewing = 0x336699;
     shell::appState().preferences.colours[shell::SchemeColour::Viewing] = viewing;
     effects::StdUniformGenerator random(42);
@@ -195,28 +174,18 @@ TEST_F(EffectDialogs, KaleidoscopeDensityColourAndPatternReachTheIcon) {
         EXPECT_EQ(text(dialog, QStringLiteral("LblDensity")), QStringLiteral("250"));
         EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")),
                   icon::Frame(32, 32, viewing).toImage());
-
-        spin(dialog, QStringLiteral("UDdensity"), false, 30);
-        EXPECT_EQ(text(dialog, QStringLiteral("LblDensity")), QStringLiteral("10"));
-        spin(dialog, QStringLiteral("UDdensity"), true);
+        spin(dialog, QStringLiteral("UDdensity"), false, 23);
         EXPECT_EQ(text(dialog, QStringLiteral("LblDensity")), QStringLiteral("20"));
 
-        // A chosen colour, then a cancelled choice: both clear the pattern drawn before.
+        // A double click asks for the back colour, starting from the one shown.
         m_dialogs.chooseColourValue(icon::kBlack);
         click(dialog, QStringLiteral("CmdGenerate"));
         QTest::mouseDClick(child(dialog, QStringLiteral("PicRnd")), Qt::LeftButton);
         EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::Colour);
         EXPECT_EQ(m_dialogs.last().colour, viewing);
         EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), icon::Frame(32, 32, 0).toImage());
-        click(dialog, QStringLiteral("CmdGenerate"));
-        m_dialogs.cancel();
-        QTest::mouseDClick(child(dialog, QStringLiteral("PicRnd")), Qt::LeftButton);
-        EXPECT_EQ(m_dialogs.last().colour, icon::kBlack);
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), icon::Frame(32, 32, 0).toImage());
 
-        // The third pattern of the sequence, which the user sees and confirms.
         click(dialog, QStringLiteral("CmdGenerate"));
-        effects::Kaleidoscope::generate(20, 0, replay);
         effects::Kaleidoscope::generate(20, 0, replay);
         expected = effects::Kaleidoscope::generate(20, 0, replay);
         EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), expected.toImage());
@@ -240,63 +209,49 @@ TEST_F(EffectDialogs, KaleidoscopeCancelledChangesNothingAndTheNextOpeningStarts
     EXPECT_EQ(FrmRndIcon::run(m_engine, m_dialogs, random), kCancelled);
     expectUntouched();
 
+    // Closed without a button, the dialog counts as cancelled.
     m_dialogs.onModal([](QDialog& dialog) {
         EXPECT_EQ(text(dialog, QStringLiteral("LblDensity")), QStringLiteral("250"));
-        EXPECT_EQ(child<QAbstractSlider>(dialog, QStringLiteral("UDdensity"))->value(), 250);
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")),
-                  icon::Frame(32, 32, 0xD2D200).toImage());
     });
-    // Closed without a button, the dialog counts as cancelled.
     EXPECT_EQ(FrmRndIcon::run(m_engine, m_dialogs, random), kCancelled);
     expectUntouched();
 }
 
-TEST_F(EffectDialogs, GradientBarsAloneLeaveThePreviewAndOkAppliesWhatItShows) {
-    const icon::Frame blackToWhite = effects::Gradient::render(icon::kBlack, icon::kWhite, 0);
+TEST_F(EffectDialogs, GradientControlsReachThePreviewAndOkAppliesWhatItShows) {
     m_icon.erase(5, 5);
     m_engine.loadIcon(m_icon);
+    icon::Frame shown;
     m_dialogs.onModal([&](QDialog& dialog) {
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")), blackToWhite.toImage());
-        EXPECT_EQ(text(dialog, QStringLiteral("LblColorVal0")), QStringLiteral("000"));
-        EXPECT_EQ(text(dialog, QStringLiteral("LblColorVal3")), QStringLiteral("255"));
-        EXPECT_EQ(text(dialog, QStringLiteral("LblDegrees")), QStringLiteral("0"));
-
         child<QScrollBar>(dialog, QStringLiteral("Hsb0"))->setValue(200);
         child<QScrollBar>(dialog, QStringLiteral("Hsb4"))->setValue(7);
         EXPECT_EQ(text(dialog, QStringLiteral("LblColorVal0")), QStringLiteral("200"));
         EXPECT_EQ(text(dialog, QStringLiteral("LblColorVal4")), QStringLiteral("007"));
-        // The swatches follow the bars at once; the preview does not.
-        const QImage shown = dialog.grab().toImage();
-        EXPECT_EQ(pixel(shown, FrmShades::kStartSwatch.center().x(),
+        // The swatches follow the bars at once.
+        const QImage window = dialog.grab().toImage();
+        EXPECT_EQ(pixel(window, FrmShades::kStartSwatch.center().x(),
                         FrmShades::kStartSwatch.center().y()),
                   rgb(200, 0, 0));
         EXPECT_EQ(
-            pixel(shown, FrmShades::kEndSwatch.center().x(), FrmShades::kEndSwatch.center().y()),
+            pixel(window, FrmShades::kEndSwatch.center().x(), FrmShades::kEndSwatch.center().y()),
             rgb(255, 7, 255));
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")), blackToWhite.toImage());
+        click(dialog, QStringLiteral("CmdGradient"));
+        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")),
+                  effects::Gradient::render(rgb(200, 0, 0), rgb(255, 7, 255), 0).toImage());
+        spin(dialog, QStringLiteral("VsbDegrees"), true, 3);
+        EXPECT_EQ(text(dialog, QStringLiteral("LblDegrees")), QStringLiteral("135"));
+        shown = effects::Gradient::render(rgb(200, 0, 0), rgb(255, 7, 255), 135);
+        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")), shown.toImage());
         testsupport::saveScreenshot(dialog, QStringLiteral("FrmShades"));
         click(dialog, QStringLiteral("CmdOK"));
     });
     EXPECT_EQ(FrmShades::run(m_engine, m_dialogs), kOk);
-    EXPECT_EQ(m_engine.planes().image.at(1, 0), blackToWhite.at(1, 0));
-    EXPECT_EQ(m_engine.planes().image.at(5, 5), blackToWhite.at(5, 5));
+    EXPECT_EQ(m_engine.planes().image.at(5, 5), shown.at(5, 5));
     EXPECT_EQ(m_engine.planes().image.at(6, 5), m_icon.image.at(6, 5));
     EXPECT_EQ(m_engine.planes().mask, icon::Plane(icon::kBlack));
     expectOneStep();
-}
 
-TEST_F(EffectDialogs, GradientRedrawsForItsButtonAndItsDirectionAndCancels) {
-    m_dialogs.onModal([](QDialog& dialog) {
-        child<QScrollBar>(dialog, QStringLiteral("Hsb5"))->setValue(0);
-        click(dialog, QStringLiteral("CmdGradient"));
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")),
-                  effects::Gradient::render(icon::kBlack, rgb(255, 255, 0), 0).toImage());
-        spin(dialog, QStringLiteral("VsbDegrees"), true, 3);
-        EXPECT_EQ(text(dialog, QStringLiteral("LblDegrees")), QStringLiteral("135"));
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")),
-                  effects::Gradient::render(icon::kBlack, rgb(255, 255, 0), 135).toImage());
-        click(dialog, QStringLiteral("CmdCancel"));
-    });
+    m_engine.loadIcon(m_icon);
+    m_dialogs.onModal([](QDialog& dialog) { click(dialog, QStringLiteral("CmdCancel")); });
     EXPECT_EQ(FrmShades::run(m_engine, m_dialogs), kCancelled);
     expectUntouched();
 }
