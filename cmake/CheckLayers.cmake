@@ -20,13 +20,14 @@ set(may_include_platform ${below_windows})
 foreach(area effects editor browser capture)
     set(may_include_${area}/ui ${below_windows} ${area}/ui)
 endforeach()
-# The composition level: it creates the windows and wires one window's command to another.
-set(may_include_shell/ui ${below_windows} shell/ui effects/ui editor/ui browser/ui capture/ui)
+set(may_include_shell/ui ${below_windows} shell/ui)
+# The top: it creates the windows and wires one window's command to another.
+set(may_include_app ${below_windows} effects/ui editor/ui browser/ui capture/ui shell/ui app)
 set(may_include_cli icon cli)
 set(may_include_resources/icons icon resources/icons)
 
 set(checked icon effects editor browser capture shell platform effects/ui editor/ui browser/ui
-            capture/ui shell/ui cli resources/icons)
+            capture/ui shell/ui app cli resources/icons)
 set(widget_free ${all_cores} cli resources/icons)
 
 set(bad "")

@@ -299,9 +299,8 @@ void FenPrin::centreRightPressed() {
     // The editor comes with its own window; until it is there the right button does nothing.
     if (centred == nullptr || !m_showEditor)
         return;
-    shell::appState().iconToEdit = centred->file;
     platform::sound().playClick();
-    m_showEditor();
+    m_showEditor(centred->file);
 }
 
 void FenPrin::chooseGridBackground(bool centre) {

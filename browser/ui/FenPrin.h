@@ -53,7 +53,9 @@ public:
     QString countText() const;
     QString pathText() const;
     // The icon editor, brought up by the centre picture's right button once it exists.
-    void setEditorLauncher(std::function<void()> launcher) { m_showEditor = std::move(launcher); }
+    void setEditorLauncher(std::function<void(const QString& icon)> launcher) {
+        m_showEditor = std::move(launcher);
+    }
     // Marks a command as working: it is enabled with the other file commands.
     void setCommandReady(const QString& name);
 
@@ -122,7 +124,7 @@ private:
     platform::GradientPanel* m_count = nullptr;
     PopUpInfos* m_popUp = nullptr;
     QSet<QString> m_ready;
-    std::function<void()> m_showEditor;
+    std::function<void(const QString& icon)> m_showEditor;
     // Where the copy dialog opens: the folder of the last copy, for the whole run.
     QString m_copyFolder;
     PickerState m_picker;

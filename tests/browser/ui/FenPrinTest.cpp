@@ -210,12 +210,16 @@ TEST_F(FenPrinFixture, TheCentrePictureHandsTheRealPathToTheEditor) {
                   QDir(folder).filePath(QStringLiteral("Grand.ICO")));
     m_window->openFolder(folder);
     int shown = 0;
-    m_window->setEditorLauncher([&] { ++shown; });
+    QString handed;
+    m_window->setEditorLauncher([&](const QString& icon) {
+        ++shown;
+        handed = icon;
+    });
     QWidget* centre = control("Picture24");
     QTest::mousePress(centre, Qt::RightButton);
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(m_sound.clicks, 1);
-    EXPECT_EQ(shell::appState().iconToEdit, QDir(folder).filePath(QStringLiteral("Grand.ICO")));
+    EXPECT_EQ(handed, QDir(folder).filePath(QStringLiteral("Grand.ICO")));
     EXPECT_EQ(m_window->pathText(), QDir(folder).filePath(QStringLiteral("grand.ico")).toLower());
 }
 

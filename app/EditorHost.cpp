@@ -1,4 +1,4 @@
-#include "shell/ui/EditorHost.h"
+#include "app/EditorHost.h"
 
 #include "browser/ui/FenPrin.h"
 #include "capture/CaptureTexts.h"
@@ -19,7 +19,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-namespace shell::ui {
+namespace app {
 
 namespace {
 // A display of 24 bits or more shows 16 million colours.
@@ -35,7 +35,7 @@ EditorHost::~EditorHost() = default;
 
 void EditorHost::attach(browser::ui::FenPrin& main) {
     m_main = &main;
-    main.setEditorLauncher([this] { bringUpWith(shell::appState().iconToEdit); });
+    main.setEditorLauncher([this](const QString& icon) { bringUpWith(icon); });
     main.setCommandReady(QStringLiteral("CmdEditer"));
     if (auto* edit = main.findChild<platform::GradientButton*>(QStringLiteral("CmdEditer")))
         connect(edit, &QAbstractButton::clicked, this, &EditorHost::bringUp);
@@ -126,7 +126,7 @@ void EditorHost::showSnapShoot() {
 void EditorHost::warnAboutDepth(QWidget& editor) {
     if (m_depth() >= kFullColourDepth)
         return;
-    Avertis warning(&editor);
+    shell::ui::Avertis warning(&editor);
     platform::dialogs().runModal(warning);
 }
 
@@ -152,4 +152,4 @@ void EditorHost::openAtStart(const QString& commandLine) {
     window.readCommandLine(commandLine);
 }
 
-} // namespace shell::ui
+} // namespace app

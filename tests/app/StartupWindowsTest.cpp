@@ -1,3 +1,4 @@
+#include "app/Startup.h"
 #include "browser/ThumbnailProvider.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
@@ -8,7 +9,6 @@
 #include "shell/ui/Avertis.h"
 #include "shell/ui/Conseils.h"
 #include "shell/ui/Demarre2.h"
-#include "shell/ui/Startup.h"
 #include "tests/support/Recorders.h"
 #include "tests/support/Screenshot.h"
 #include "tests/support/ScriptedDialogs.h"
@@ -76,7 +76,7 @@ TEST_F(StartupWindows, Demarre2ShowsItsLabels) {
 
 TEST_F(StartupWindows, NoToTheSecondInstanceEndsTheStart) {
     browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider);
+    app::Startup startup(provider);
     m_dialogs.answer(platform::Answer::No);
     EXPECT_FALSE(startup.begin(true));
     EXPECT_FALSE(startup.splash().isVisible());
@@ -89,8 +89,8 @@ TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());
     browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider);
-    QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
+    app::Startup startup(provider);
+    QSignalSpy shown(&startup, &app::Startup::mainWindowShown);
     m_dialogs.onModal(
         [](QDialog& tips) { EXPECT_EQ(tips.objectName(), QStringLiteral("Conseils")); });
     ASSERT_TRUE(startup.begin(false));
@@ -107,8 +107,8 @@ TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
 TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
     shell::Settings().save(shell::keys::kTipsAtStart, QStringLiteral("Non"));
     browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider);
-    QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
+    app::Startup startup(provider);
+    QSignalSpy shown(&startup, &app::Startup::mainWindowShown);
     ASSERT_TRUE(startup.begin(false));
     ASSERT_TRUE(shown.wait(3000));
     QTest::qWait(20);

@@ -1,9 +1,9 @@
+#include "app/EditorHost.h"
 #include "capture/ui/FrmSnapShoot.h"
 #include "editor/ui/FrmIcoEd.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
-#include "shell/ui/EditorHost.h"
 #include "tests/support/FakeDesktopGrabber.h"
+#include "tests/support/ScriptedDialogs.h"
 
 #include <QDialog>
 #include <QGuiApplication>
@@ -31,7 +31,7 @@ protected:
     testsupport::FakeDesktopGrabber m_grabber;
     platform::ScriptedDialogs m_dialogs;
     platform::ServicesOverride m_override;
-    shell::ui::EditorHost m_host;
+    app::EditorHost m_host;
 };
 
 TEST_F(EditorCapture, KTakesTheFramedZoneAsOneStepOfTheHistory) {

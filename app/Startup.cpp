@@ -1,10 +1,10 @@
-#include "shell/ui/Startup.h"
+#include "app/Startup.h"
 
+#include "app/MainWindowClose.h"
 #include "platform/Services.h"
 #include "shell/Preferences.h"
 #include "shell/ui/Apropos.h"
 #include "shell/ui/Conseils.h"
-#include "shell/ui/MainWindowClose.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +14,7 @@
 
 #include <ctime>
 
-namespace shell::ui {
+namespace app {
 
 namespace {
 
@@ -56,13 +56,13 @@ private:
 Startup::Startup(const browser::ThumbnailProvider& provider, const QString& commandLine)
     : m_provider(provider)
     , m_commandLine(commandLine) {
-    connect(&m_splash, &Demarre2::timeUp, this, &Startup::showMainWindow);
+    connect(&m_splash, &shell::ui::Demarre2::timeUp, this, &Startup::showMainWindow);
 }
 
 Startup::~Startup() = default;
 
 bool Startup::begin(bool anotherInstanceRuns) {
-    if (anotherInstanceRuns && !Demarre2::askForSecondInstance())
+    if (anotherInstanceRuns && !shell::ui::Demarre2::askForSecondInstance())
         return false;
     // The splash says "Un instant, SVP..." while the main window loads, never longer: its timer
     // runs out as soon as the window system has had its turn.
@@ -93,15 +93,15 @@ void Startup::showMainWindow() {
 }
 
 void Startup::showTipsAtStart() {
-    if (!m_main || !Preferences::loadTipsAtStart(Settings()))
+    if (!m_main || !shell::Preferences::loadTipsAtStart(shell::Settings()))
         return;
-    Conseils tips(m_main.get());
+    shell::ui::Conseils tips(m_main.get());
     platform::dialogs().runModal(tips);
     m_main->activateWindow();
 }
 
 void Startup::showAbout() {
-    Apropos about(m_main.get());
+    shell::ui::Apropos about(m_main.get());
     platform::dialogs().runModal(about);
 }
 
@@ -131,4 +131,4 @@ void Startup::reportFirstPaint() {
     m_main->installEventFilter(new FirstPaintReport(path, m_main.get()));
 }
 
-} // namespace shell::ui
+} // namespace app

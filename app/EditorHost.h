@@ -17,7 +17,7 @@ namespace capture::ui {
 class FrmSnapShoot;
 }
 
-namespace shell::ui {
+namespace app {
 
 // The icon editor of the run: created the first time it is wanted, brought up by the main
 // window's `CmdEditer` and by the right button on its centre picture, and opened at start on
@@ -72,4 +72,4 @@ private:
     std::unique_ptr<capture::ui::FrmSnapShoot> m_snapShoot;
 };
 
-} // namespace shell::ui
+} // namespace app

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "app/EditorHost.h"
 #include "browser/ThumbnailProvider.h"
 #include "browser/ui/FenPrin.h"
 #include "shell/ui/Demarre2.h"
-#include "shell/ui/EditorHost.h"
 
 #include <QObject>
 
 #include <memory>
 
-namespace shell::ui {
+namespace app {
 
 // How the program starts: the splash and its single-instance question, then the main window on
 // the current folder, then the tips when the tips flag says "Oui".
@@ -24,7 +24,7 @@ public:
     // False when another instance runs and the user chose not to start a new one.
     bool begin(bool anotherInstanceRuns);
 
-    Demarre2& splash() { return m_splash; }
+    shell::ui::Demarre2& splash() { return m_splash; }
     browser::ui::FenPrin* mainWindow() { return m_main.get(); }
     EditorHost& editorHost() { return m_editor; }
 
@@ -40,9 +40,9 @@ private:
 
     const browser::ThumbnailProvider& m_provider;
     QString m_commandLine;
-    Demarre2 m_splash;
+    shell::ui::Demarre2 m_splash;
     std::unique_ptr<browser::ui::FenPrin> m_main;
     EditorHost m_editor;
 };
 
-} // namespace shell::ui
+} // namespace app

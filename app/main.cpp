@@ -1,7 +1,7 @@
 // orvanne: the icon browser and editor.
+#include "app/Startup.h"
 #include "browser/ThumbnailProvider.h"
 #include "platform/SingleInstance.h"
-#include "shell/ui/Startup.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     const browser::IcoThumbnailProvider provider;
     // The arguments after the program's name, joined by spaces, are its command line.
     const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));
-    shell::ui::Startup startup(provider, commandLine);
+    app::Startup startup(provider, commandLine);
     if (!startup.begin(instance.anotherIsRunning()))
         return 0;
     return QApplication::exec();

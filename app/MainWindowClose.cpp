@@ -1,11 +1,11 @@
-#include "shell/ui/MainWindowClose.h"
+#include "app/MainWindowClose.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
 #include <QWidget>
 
-namespace shell::ui {
+namespace app {
 
 MainWindowClose::MainWindowClose(QWidget& main, std::function<bool()> closeEditor)
     : QObject(&main)
@@ -36,4 +36,4 @@ bool MainWindowClose::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-} // namespace shell::ui
+} // namespace app

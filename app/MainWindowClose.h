@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace shell::ui {
+namespace app {
 
 // Makes the program one application: closing the main window first closes the editor (which
 // may ask to save; its "Annuler" keeps both windows open), then every other window of the
@@ -25,4 +25,4 @@ private:
     std::function<bool()> m_closeEditor;
 };
 
-} // namespace shell::ui
+} // namespace app

@@ -1,15 +1,15 @@
-#include "shell/ui/EditorHost.h"
+#include "app/EditorHost.h"
+#include "app/MainWindowClose.h"
 #include "browser/ThumbnailProvider.h"
 #include "browser/ui/FenPrin.h"
 #include "editor/ui/FrmIcoEd.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpViewer.h"
-#include "tests/support/Recorders.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "shell/Settings.h"
-#include "shell/ui/MainWindowClose.h"
+#include "tests/support/Recorders.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestData.h"
 
 #include <QCheckBox>
@@ -53,7 +53,7 @@ protected:
 
 TEST_F(EditorHostTest, TheCentrePictureBringsTheEditorThatOpensItsIconFromTheFichierPad) {
     const QString icon = showFolder(QStringLiteral("centre.ico"));
-    shell::ui::EditorHost host([] { return 24; });
+    app::EditorHost host([] { return 24; });
     host.attach(*m_main);
     QTest::mousePress(m_main->findChild<QWidget*>(QStringLiteral("Picture24")), Qt::RightButton);
     ASSERT_TRUE(host.hasEditor());
@@ -71,7 +71,7 @@ TEST_F(EditorHostTest, TheCentrePictureBringsTheEditorThatOpensItsIconFromTheFic
 
 TEST_F(EditorHostTest, CmdEditerBringsTheEditorUpWithoutAPath) {
     showFolder(QStringLiteral("une.ico"));
-    shell::ui::EditorHost host([] { return 32; });
+    app::EditorHost host([] { return 32; });
     host.attach(*m_main);
     auto* edit = m_main->findChild<platform::GradientButton*>(QStringLiteral("CmdEditer"));
     ASSERT_TRUE(edit->isEnabled());
@@ -85,9 +85,9 @@ TEST_F(EditorHostTest, CmdEditerBringsTheEditorUpWithoutAPath) {
 
 TEST_F(EditorHostTest, ClosingTheMainWindowClosesTheEditorThroughItsQuestionAndTheOthers) {
     showFolder(QStringLiteral("une.ico"));
-    shell::ui::EditorHost host([] { return 32; });
+    app::EditorHost host([] { return 32; });
     host.attach(*m_main);
-    new shell::ui::MainWindowClose(*m_main, [&] { return host.closeEditor(); });
+    new app::MainWindowClose(*m_main, [&] { return host.closeEditor(); });
     host.bringUp();
     EXPECT_NE(host.editor().pos(), m_main->pos()) << "beside the browser, not over it";
     host.editor().apply(host.editor().engine().applyEffect(editor::PixelEffect::Negative));
@@ -112,7 +112,7 @@ TEST_F(EditorHostTest, ClosingTheMainWindowClosesTheEditorThroughItsQuestionAndT
 
 TEST_F(EditorHostTest, OpenOnTheCommandLineOpensTheEditorAtStart) {
     const QString icon = showFolder(QStringLiteral("départ.ico"));
-    shell::ui::EditorHost host([] { return 24; });
+    app::EditorHost host([] { return 24; });
     host.attach(*m_main);
     host.openAtStart(QStringLiteral("/images/rien.ico"));
     EXPECT_FALSE(host.hasEditor());
@@ -141,7 +141,7 @@ TEST_F(EditorHostTest, AvertisComesAtTheEditorsLoadOnADisplayOfFewerColours) {
                 dialog.reject();
             });
         const int depth = c.depth;
-        shell::ui::EditorHost host([depth] { return depth; });
+        app::EditorHost host([depth] { return depth; });
         host.bringUp();
         ASSERT_EQ(m_dialogs.asked().size(), c.warns ? 1u : 0u) << c.depth;
         if (c.warns) {
@@ -155,7 +155,7 @@ TEST_F(EditorHostTest, AvertisComesAtTheEditorsLoadOnADisplayOfFewerColours) {
 }
 
 TEST_F(EditorHostTest, TheEffectEntriesOpenTheirDialogsOverTheEditor) {
-    shell::ui::EditorHost host([] { return 24; });
+    app::EditorHost host([] { return 24; });
     host.bringUp();
     editor::ui::FrmIcoEd& editor = host.editor();
     const std::size_t steps = editor.engine().history().undoCount();
