@@ -50,27 +50,14 @@ TEST_F(StartupWindows, Demarre2AsksBeforeASecondInstanceWithNoAsTheDefault) {
     for (const auto answer : {platform::Answer::No, platform::Answer::Yes}) {
         m_dialogs.answer(answer);
         EXPECT_EQ(shell::ui::Demarre2::askForSecondInstance(), answer == platform::Answer::Yes);
-        const Asked& asked = m_dialogs.last();
-        EXPECT_EQ(asked.title, QStringLiteral("Orvanne®"));
-        EXPECT_EQ(asked.text,
-                  QStringLiteral("Orvanne® est déjà en cours d'exécution.\nSouhaitez-vous "
-                                 "exécuter une nouvelle instance ?"));
-        EXPECT_EQ(asked.icon, platform::MessageIcon::Exclamation);
-        EXPECT_EQ(asked.buttons, platform::MessageButtons::YesNo);
-        EXPECT_EQ(asked.defaultButton, 2);
+        EXPECT_EQ(m_dialogs.last().buttons, platform::MessageButtons::YesNo);
+        EXPECT_EQ(m_dialogs.last().defaultButton, 2);
     }
 }
 
-TEST_F(StartupWindows, Demarre2ShowsItsLabels) {
+TEST_F(StartupWindows, Demarre2Screenshot) {
     shell::ui::Demarre2 splash;
     splash.show();
-    EXPECT_EQ(splash.windowTitle(), QStringLiteral("Démarrage"));
-    QStringList texts;
-    for (auto* label : splash.findChildren<QLabel*>())
-        texts << label->text();
-    EXPECT_TRUE(texts.contains(QStringLiteral("Un instant, SVP...")));
-    EXPECT_TRUE(texts.contains(QStringLiteral("Orvanne®")));
-    EXPECT_TRUE(texts.contains(QStringLiteral("Version 3.10 - Février 2002")));
     testsupport::saveScreenshot(splash, QStringLiteral("Demarre2"));
 }
 
@@ -140,7 +127,6 @@ TEST_F(StartupWindows, ConseilsShowsTheTipChosenAndNextAndOkReachTheTips) {
 TEST_F(StartupWindows, ConseilsCheckBoxWritesTheTipsFlag) {
     shell::ui::Conseils tips(nullptr, [] { return 0.0; });
     auto* check = find<QCheckBox>(tips, "chkLoadTipsAtStartup");
-    EXPECT_EQ(check->text(), QStringLiteral("Afficher les conseils à l'ouverture"));
     EXPECT_TRUE(check->isChecked());
     check->click();
     EXPECT_EQ(shell::Settings().read(shell::keys::kTipsAtStart), QStringLiteral("Non"));
@@ -155,10 +141,6 @@ TEST_F(StartupWindows, ConseilsCheckBoxWritesTheTipsFlag) {
 
 TEST_F(StartupWindows, AproposDrawsItsLinesAnimatesAndOpensTheProgramsPage) {
     shell::ui::Apropos about;
-    const QStringList lines = shell::ui::Apropos::lines();
-    EXPECT_EQ(lines[0], QStringLiteral("         Orvanne®"));
-    EXPECT_EQ(lines[2], QStringLiteral("                   édition d'icônes"));
-    EXPECT_EQ(lines[6], QStringLiteral("         Version 3.10 - Février 2002"));
     about.show();
     const int phase = about.phase();
     QTest::qWait(150);
@@ -174,9 +156,7 @@ TEST_F(StartupWindows, AproposDrawsItsLinesAnimatesAndOpensTheProgramsPage) {
 
 TEST_F(StartupWindows, AvertisTicksFromTheSettingAndStoresTheAnswer) {
     shell::ui::Avertis warning;
-    EXPECT_EQ(warning.windowTitle(), QStringLiteral("Orvanne® - Avertissement"));
     auto* check = find<QCheckBox>(warning, "Coche1");
-    EXPECT_EQ(check->text(), QStringLiteral("Ne plus poser la question"));
     EXPECT_FALSE(check->isChecked());
     check->click();
     EXPECT_EQ(shell::Settings().read(shell::keys::kDepthWarning), QStringLiteral("Non"));
@@ -199,12 +179,7 @@ TEST_F(StartupWindows, AvertisOkSwitchesToTrueColourOrSaysItCannot) {
         EXPECT_TRUE(m_dialogs.asked().empty());
     } else {
         ASSERT_EQ(m_dialogs.asked().size(), 1u);
-        EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Erreur"));
     }
-    bool hasLabel = false;
-    for (auto* label : warning.findChildren<QLabel*>())
-        hasLabel = hasLabel || label->text() == shell::ui::Avertis::warningText();
-    EXPECT_TRUE(hasLabel);
 }
 
 } // namespace
