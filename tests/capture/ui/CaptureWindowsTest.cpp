@@ -1,4 +1,3 @@
-#include "capture/CaptureTexts.h"
 #include "capture/ui/FrmSnap.h"
 #include "capture/ui/FrmSnapShoot.h"
 #include "capture/ui/VisuImg.h"
@@ -100,6 +99,9 @@ TEST_F(SnapShootWindow, TheZoneChosenOnTheOverlayIsShownCopiedAndSaved) {
 
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("zone"));
+    m_dialogs.cancel();
+    click(m_window, "CmdSave");
+    EXPECT_TRUE(QDir(folder.path()).isEmpty()) << "a cancelled save writes nothing";
     m_dialogs.chooseFile(path);
     click(m_window, "CmdSave");
     const QImage saved(path + QStringLiteral(".BMP"));
@@ -194,6 +196,7 @@ TEST(VisuImgWindow, ShowsAPictureAtItsSizeOrSaysWhyNot) {
     dialogs.chooseFile(path);
     click(viewer, "CmdOuvrir");
     EXPECT_EQ(viewer.picture().size(), QSize(900, 700));
+    EXPECT_EQ(viewer.caption(), QStringLiteral("grande image.png  -  900 x 700 pixels"));
     EXPECT_TRUE(child(viewer, QStringLiteral("HScroll"))->isVisible());
     testsupport::saveScreenshot(viewer, QStringLiteral("capture-VisuImg"));
 

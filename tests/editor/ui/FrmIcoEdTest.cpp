@@ -19,12 +19,10 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QFile>
-#include <QLabel>
 #include <QMimeData>
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextBrowser>
 #include <QUrl>
 
 #include <gtest/gtest.h>
