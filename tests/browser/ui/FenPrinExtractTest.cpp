@@ -32,7 +32,7 @@ protected:
     void pick(const QString& file, int number, bool ok) {
         m_dialogs.onModal([=](QDialog& dialog) {
             auto& picker = dynamic_cast<browser::ui::FrmIcons&>(dialog);
-            picker.openFile(std::filesystem::path(QFile::encodeName(file).toStdString()));
+            picker.openFile(testsupport::pathOf(file));
             picker.select(number);
             QTest::mouseClick(picker.findChild<platform::GradientButton*>(
                                   QLatin1String(ok ? "CmdOK" : "CmdCancel")),

@@ -85,8 +85,9 @@ TEST_F(FenPrinFixture, TheMoveButtonsWithTheirLeftAndRightButtons) {
         const char* name;
         bool right;
         int expected;
-    } steps[] = {{"DeplaceHaut", false, 43}, {"DeplaceBas", false, 1}, {"DeplaceHaut", true, 8},
-                 {"DeplaceBas", true, 1},     {"DeplaceFin", false, 100}, {"DeplaceDebut", false, 1}};
+    } steps[] = {{"DeplaceHaut", false, 43}, {"DeplaceBas", false, 1},
+                 {"DeplaceHaut", true, 8},   {"DeplaceBas", true, 1},
+                 {"DeplaceFin", false, 100}, {"DeplaceDebut", false, 1}};
     for (const auto& step : steps) {
         if (step.right)
             rightPress(step.name);

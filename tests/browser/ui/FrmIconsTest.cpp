@@ -2,10 +2,10 @@
 #include "browser/PickerLayout.h"
 #include "browser/ui/IcoWinPanel.h"
 #include "platform/GradientButton.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "tests/support/SharedIconsPe.h"
 #include "tests/support/TestData.h"
 
@@ -23,13 +23,11 @@
 
 namespace {
 
+using testsupport::pathOf;
+
 using browser::PickerState;
 using browser::ui::FrmIcons;
 namespace fs = std::filesystem;
-
-fs::path pathOf(const QString& path) {
-    return fs::path(QFile::encodeName(path).toStdString());
-}
 
 class FrmIconsTest : public ::testing::Test {
 protected:

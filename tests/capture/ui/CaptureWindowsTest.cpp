@@ -3,11 +3,11 @@
 #include "capture/ui/VisuImg.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
-#include "tests/support/Recorders.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "tests/support/FakeDesktopGrabber.h"
+#include "tests/support/Recorders.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 
 #include <QApplication>
 #include <QClipboard>

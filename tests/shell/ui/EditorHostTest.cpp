@@ -4,12 +4,12 @@
 #include "editor/ui/FrmIcoEd.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpViewer.h"
-#include "tests/support/Recorders.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "shell/Settings.h"
 #include "shell/ui/MainWindowClose.h"
+#include "tests/support/Recorders.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestData.h"
 
 #include <QCheckBox>
