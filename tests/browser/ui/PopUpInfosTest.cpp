@@ -37,6 +37,11 @@ TEST_F(PopUpInfosTest, OptionsOpensThePanelInItsPlaceAndEveryCommandClosesIt) {
     openPanel();
     click("DeplaceHaut");
     EXPECT_FALSE(panel->isVisible());
+    QSignalSpy about(m_window.get(), &browser::ui::FenPrin::aboutRequested);
+    openPanel();
+    click("CmdApropos2");
+    EXPECT_EQ(about.count(), 1);
+    EXPECT_FALSE(panel->isVisible());
 }
 
 TEST_F(PopUpInfosTest, TogglesFlipWriteAndMarkTheirCaption) {
@@ -121,13 +126,6 @@ TEST_F(PopUpInfosTest, The65536ColourModeCannotBeHadOnATrueColourScreen) {
     EXPECT_FALSE(control("PopUpInfos")->isVisible());
     EXPECT_EQ(m_dialogs.asked().size(), 1u);
     EXPECT_EQ(m_sound.clicks, 0);
-}
-
-TEST_F(PopUpInfosTest, AboutIsAskedForFromThePanel) {
-    QSignalSpy about(m_window.get(), &browser::ui::FenPrin::aboutRequested);
-    openPanel();
-    click("CmdApropos2");
-    EXPECT_EQ(about.count(), 1);
 }
 
 using browsertest::RealIconsFenPrin;

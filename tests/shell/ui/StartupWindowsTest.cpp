@@ -68,37 +68,31 @@ TEST_F(StartupWindows, NoToTheSecondInstanceEndsTheStart) {
     EXPECT_FALSE(startup.splash().isVisible());
 }
 
-TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTips) {
+TEST_F(StartupWindows, TheMainWindowComesOnTheCurrentFolderThenTheTipsUnlessTurnedOff) {
     QTemporaryDir folder;
     for (const QString& file : testsupport::testFiles(QStringLiteral("ico/valid")).mid(0, 9))
         QFile::copy(file, QDir(folder.path()).filePath(QFileInfo(file).fileName()));
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());
-    browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider);
-    QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
-    m_dialogs.onModal(
-        [](QDialog& tips) { EXPECT_EQ(tips.objectName(), QStringLiteral("Conseils")); });
-    ASSERT_TRUE(startup.begin(false));
-    ASSERT_TRUE(shown.wait(3000));
+    for (const bool tips : {true, false}) {
+        shell::Settings().save(shell::keys::kTipsAtStart,
+                               tips ? QStringLiteral("Oui") : QStringLiteral("Non"));
+        m_dialogs.clear();
+        browser::IcoThumbnailProvider provider;
+        shell::ui::Startup startup(provider);
+        QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
+        ASSERT_TRUE(startup.begin(false));
+        ASSERT_TRUE(shown.wait(3000));
+        ASSERT_NE(startup.mainWindow(), nullptr);
+        EXPECT_EQ(startup.mainWindow()->countText(), QStringLiteral("9 icônes"));
+        QTest::qWait(20);
+        ASSERT_EQ(m_dialogs.asked().size(), tips ? 1u : 0u) << tips;
+        if (tips) {
+            EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::Modal);
+            EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Conseils"));
+        }
+    }
     QDir::setCurrent(before);
-    ASSERT_NE(startup.mainWindow(), nullptr);
-    EXPECT_EQ(startup.mainWindow()->countText(), QStringLiteral("9 icônes"));
-    QTest::qWait(20);
-    ASSERT_EQ(m_dialogs.asked().size(), 1u);
-    EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::Modal);
-    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Conseils"));
-}
-
-TEST_F(StartupWindows, NoTipsAtStartWhenTheFlagSaysNon) {
-    shell::Settings().save(shell::keys::kTipsAtStart, QStringLiteral("Non"));
-    browser::IcoThumbnailProvider provider;
-    shell::ui::Startup startup(provider);
-    QSignalSpy shown(&startup, &shell::ui::Startup::mainWindowShown);
-    ASSERT_TRUE(startup.begin(false));
-    ASSERT_TRUE(shown.wait(3000));
-    QTest::qWait(20);
-    EXPECT_TRUE(m_dialogs.asked().empty());
 }
 
 TEST_F(StartupWindows, ConseilsShowsTheTipChosenAndNextAndOkReachTheTips) {
