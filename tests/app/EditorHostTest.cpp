@@ -61,11 +61,10 @@ TEST_F(EditorHostTest, TheCentrePictureBringsTheEditorThatOpensItsIconFromTheFic
     EXPECT_TRUE(editor.isVisible());
     EXPECT_EQ(m_sound.clicks, 1);
     EXPECT_EQ(editor.document().openFolder(), m_dir.path());
+    // The editor's own test opens a handed-over icon from the pad; here, that it is this one.
     auto* fichier = editor.findChild<platform::GradientButton*>(QStringLiteral("CmdFichier"));
     QTest::mousePress(fichier, Qt::RightButton);
-    EXPECT_TRUE(m_dialogs.asked().empty());
     EXPECT_EQ(editor.document().iconPath(), icon);
-    EXPECT_EQ(editor.windowTitle(), QStringLiteral("Orvanne® - centre.ico"));
     editor.close();
 }
 
@@ -96,8 +95,7 @@ TEST_F(EditorHostTest, ClosingTheMainWindowClosesTheEditorThroughItsQuestionAndT
 
     m_dialogs.answer(platform::Answer::Cancel);
     m_main->close();
-    ASSERT_EQ(m_dialogs.asked().size(), 1u);
-    EXPECT_EQ(m_dialogs.last().text, QStringLiteral("Enregistrer l'icône en cours ?"));
+    ASSERT_EQ(m_dialogs.asked().size(), 1u) << "the editor's unsaved-changes prompt";
     EXPECT_TRUE(m_main->isVisible()) << "Annuler keeps both open";
     EXPECT_TRUE(host.editor().isVisible());
     EXPECT_TRUE(platform::HelpViewer::window()->isVisible());

@@ -16,14 +16,12 @@
 
 namespace {
 
+using testsupport::pathOf;
+
 using browser::PickerCells;
 using browser::PickerLayout;
 using browser::WindowsFiles;
 namespace fs = std::filesystem;
-
-fs::path pathOf(const QString& path) {
-    return fs::path(QFile::encodeName(path).toStdString());
-}
 
 PickerCells cellsOf(std::vector<std::uint8_t> bytes) {
     auto source = icon::IconSource::fromBytes(std::move(bytes));

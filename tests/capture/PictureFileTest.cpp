@@ -1,4 +1,5 @@
 #include "capture/PictureFile.h"
+#include "tests/support/TestData.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,11 +11,9 @@
 
 namespace {
 
-using capture::PictureFile;
+using testsupport::pathOf;
 
-std::filesystem::path pathOf(const QString& name) {
-    return std::filesystem::path(QFile::encodeName(name).toStdString());
-}
+using capture::PictureFile;
 
 TEST(PictureFile, ReadsBitmapsPngAndIcons) {
     QTemporaryDir folder;

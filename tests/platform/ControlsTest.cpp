@@ -19,14 +19,6 @@
 
 namespace {
 
-TEST(Twips, FifteenToAPixel) {
-    const struct {
-        int twips, pixels;
-    } cases[] = {{7860, 524}, {5440, 363}, {3285, 219}, {15, 1}, {0, 0}};
-    for (const auto& c : cases)
-        EXPECT_EQ(platform::twips(c.twips), c.pixels) << c.twips;
-}
-
 TEST(GradientButton, ClicksWithTheLeftButtonAndReportsTheRightOne) {
     QWidget window;
     auto* button = new platform::GradientButton(QStringLiteral("Copier"), &window);

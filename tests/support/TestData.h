@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
+#include <filesystem>
 #include <vector>
 
 namespace testsupport {
@@ -17,6 +19,10 @@ QStringList testFiles(const QString& relativeFolder);
 std::vector<std::uint8_t> fileBytes(const QString& path);
 // Writes a whole file, replacing it; fails the current test when it cannot be written.
 bool writeFile(const QString& path, const QByteArray& content);
+// The file system's bytes of a path, as the cores take it.
+inline std::filesystem::path pathOf(const QString& path) {
+    return std::filesystem::path(QFile::encodeName(path).toStdString());
+}
 // Folder where window tests save their screenshots.
 QString screenshotFolder();
 

