@@ -1,13 +1,12 @@
 #include "capture/ui/FrmSnap.h"
 
+#include "capture/ui/DesktopOverlay.h"
 #include "platform/Dialogs.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -32,16 +31,8 @@ FrmSnap::FrmSnap(const QImage& desktop, QWidget* parent)
     , m_desktop(desktop)
     , m_frame(desktop.size()) {
     setObjectName(QStringLiteral("FrmSnap"));
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    QRect area(QPoint(0, 0), desktop.size());
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        area = screen->virtualGeometry();
-    setGeometry(area);
-    setWindowState(Qt::WindowFullScreen);
+    m_ratio = coverDesktop(*this, desktop.size());
     setMouseTracking(true);
-    setCursor(Qt::CrossCursor);
-    if (area.width() > 0)
-        m_ratio = static_cast<double>(desktop.width()) / area.width();
 
     m_size = new QLabel(this);
     m_size->setObjectName(QStringLiteral("lblSize"));
