@@ -6,6 +6,7 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
+#include "platform/MakeButton.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 
@@ -70,10 +71,8 @@ VisuBMP::VisuBMP(const QString& folder, const shell::ColourScheme& colours, QWid
 
     auto* title = new platform::TitleButton(windowTitle(), this);
     title->setGeometry(4, 4, width() - 32, 22);
-    auto* close = new platform::GradientButton(QStringLiteral("X"), this);
-    close->setObjectName(QStringLiteral("CmdFermer"));
-    close->setGeometry(width() - 26, 4, 22, 22);
-    platform::setHelpText(*close, QStringLiteral("Fermer"));
+    auto* close = platform::makeButton(this, "CmdFermer", QStringLiteral("X"),
+                                       QStringLiteral("Fermer"), QRect(width() - 26, 4, 22, 22));
     connect(close, &QAbstractButton::clicked, this, &QDialog::accept);
 
     m_frame = new platform::GradientPanel(this);
@@ -93,10 +92,8 @@ VisuBMP::VisuBMP(const QString& folder, const shell::ColourScheme& colours, QWid
                  {"Cmd48", "48x48", "Visualisation en 48x48", 48}};
     int top = 108;
     for (const auto& size : sizes) {
-        auto* button = new platform::GradientButton(QString::fromLatin1(size.caption), this);
-        button->setObjectName(QString::fromLatin1(size.name));
-        button->setGeometry(8, top, 78, 24);
-        platform::setHelpText(*button, QString::fromUtf8(size.help));
+        auto* button = platform::makeButton(this, size.name, QString::fromLatin1(size.caption),
+                                            QString::fromUtf8(size.help), QRect(8, top, 78, 24));
         connect(button, &QAbstractButton::clicked, this,
                 [this, side = size.side] { setSide(side); });
         top += 28;

@@ -10,6 +10,7 @@
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
 #include "platform/HelpViewer.h"
+#include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
@@ -89,11 +90,9 @@ FrmSnapShoot::~FrmSnapShoot() = default;
 
 platform::GradientButton* FrmSnapShoot::addButton(const char* name, const QString& caption,
                                                   const char* help, int row) {
-    auto* button = new platform::GradientButton(caption, this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setGeometry(kButtonLeft, kFirstRow + row * kRowStep, kButtonWidth, kButtonHeight);
-    platform::setHelpText(*button, text(help));
-    return button;
+    return platform::makeButton(
+        this, name, caption, text(help),
+        QRect(kButtonLeft, kFirstRow + row * kRowStep, kButtonWidth, kButtonHeight));
 }
 
 void FrmSnapShoot::setEditorCommand(std::function<void()> command) {
