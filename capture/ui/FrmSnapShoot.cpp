@@ -1,5 +1,6 @@
 #include "capture/ui/FrmSnapShoot.h"
 
+#include "capture/BitmapName.h"
 #include "capture/CaptureTexts.h"
 #include "capture/ui/FrmFullScr.h"
 #include "capture/ui/ScrolledPicture.h"
@@ -18,8 +19,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QFileInfo>
-#include <QRegularExpression>
 
 namespace capture::ui {
 
@@ -161,16 +160,10 @@ void FrmSnapShoot::savePicture() {
     request.filter = text(kSaveFilter);
     request.fileName = text(kSaveName);
     const auto choice = platform::dialogs().saveFile(request);
-    if (!choice || choice->path.isEmpty())
+    const std::optional<QString> path = choice ? bitmapSavePath(choice->path) : std::nullopt;
+    if (!path)
         return;
-    QString path = choice->path;
-    // A pattern left in the name is not a file name: nothing is written.
-    if (QFileInfo(path).fileName().contains(QRegularExpression(QStringLiteral("[*?]"))))
-        return;
-    // A name typed without an extension is given the bitmap one.
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".BMP");
-    const icon::SaveResult result = icon::writeBmpFile(path, icon::Frame::fromImage(picture()));
+    const icon::SaveResult result = icon::writeBmpFile(*path, icon::Frame::fromImage(picture()));
     if (result)
         return;
     platform::Message message;
