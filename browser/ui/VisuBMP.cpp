@@ -20,6 +20,10 @@
 #include <QStyle>
 #include <optional>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace browser::ui {
 
 namespace {
@@ -48,11 +52,20 @@ private:
     const QImage& m_picture;
 };
 
-std::optional<QImage> readBitmap(const QString& path) {
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() > kMaxBitmapBytes)
+// The bitmap at `path` (the file system's bytes, so that any name opens). Only a regular file
+// is read, opening never waits on a pipe, and a large file is not decoded.
+std::optional<QImage> readBitmap(const QByteArray& path) {
+    const int fd = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0)
         return std::nullopt;
-    QImageReader reader(path, "bmp");
+    QFile file;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxBitmapBytes ||
+        !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return std::nullopt;
+    }
+    QImageReader reader(&file, "bmp");
     reader.setAllocationLimit(64);
     QImage image = reader.read();
     if (image.isNull())
@@ -174,8 +187,7 @@ void VisuBMP::fillFiles() {
     for (const std::filesystem::path& name : BmpViewer::files(folder)) {
         auto* item = new QListWidgetItem(
             QFile::decodeName(QByteArray::fromStdString(name.native())), m_files);
-        item->setData(kPathRole,
-                      QFile::decodeName(QByteArray::fromStdString((folder / name).native())));
+        item->setData(kPathRole, QByteArray::fromStdString((folder / name).native()));
     }
 }
 
@@ -183,7 +195,7 @@ void VisuBMP::fileClicked(QListWidgetItem* item) {
     if (item == nullptr)
         return;
     // A file that cannot be read as a bitmap leaves the picture as it was.
-    if (auto image = readBitmap(item->data(kPathRole).toString())) {
+    if (auto image = readBitmap(item->data(kPathRole).toByteArray())) {
         m_picture = std::move(*image);
         m_view->update();
     }
