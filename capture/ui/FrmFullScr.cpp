@@ -153,12 +153,7 @@ void FrmFullScr::showZoneSize() {
     m_nodes->show();
     m_nodes->raise();
     // The label sits below the zone, or above it near the bottom of the screen.
-    QPoint at(nodes.left(), nodes.bottom() + ZoneNodes::kHandle);
-    if (at.y() + m_size->height() > height())
-        at.setY(nodes.top() - ZoneNodes::kHandle - m_size->height());
-    at.setX(std::clamp(at.x(), 0, std::max(0, this->width() - m_size->width())));
-    at.setY(std::clamp(at.y(), 0, std::max(0, this->height() - m_size->height())));
-    m_size->move(at);
+    m_size->move(sizeLabelPlace(nodes, ZoneNodes::kHandle, m_size->size(), size()));
     m_size->raise();
 }
 

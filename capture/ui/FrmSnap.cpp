@@ -58,12 +58,7 @@ void FrmSnap::changed() {
     m_size->setText(m_frame.sizeText());
     m_size->adjustSize();
     const QRect shown = toWindow(m_frame.rect());
-    QPoint at(shown.left(), shown.bottom() + 4);
-    if (at.y() + m_size->height() > height())
-        at.setY(shown.top() - 4 - m_size->height());
-    at.setX(std::clamp(at.x(), 0, std::max(0, width() - m_size->width())));
-    at.setY(std::clamp(at.y(), 0, std::max(0, height() - m_size->height())));
-    m_size->move(at);
+    m_size->move(sizeLabelPlace(shown, 4, m_size->size(), size()));
     update();
 }
 
