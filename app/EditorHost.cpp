@@ -10,14 +10,12 @@
 #include "platform/ClipboardViewer.h"
 #include "platform/DisplayMode.h"
 #include "platform/GradientButton.h"
+#include "platform/PlaceWindow.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
-#include "shell/WindowPlacement.h"
 #include "shell/ui/Avertis.h"
 
 #include <QDir>
-#include <QGuiApplication>
-#include <QScreen>
 
 namespace app {
 
@@ -46,13 +44,8 @@ editor::ui::FrmIcoEd& EditorHost::editor() {
         m_editor = std::make_unique<editor::ui::FrmIcoEd>(
             [this](QWidget& window) { warnAboutDepth(window); });
         // It first comes beside the browser; later it comes back where the user left it.
-        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-            const QRect area = screen->availableGeometry();
-            if (m_main != nullptr && m_main->isVisible())
-                m_editor->move(shell::placeBeside(m_main->frameGeometry(), m_editor->size(), area));
-            else
-                m_editor->move(area.center() - m_editor->rect().center());
-        }
+        platform::placeWindow(*m_editor,
+                              m_main != nullptr && m_main->isVisible() ? m_main : nullptr);
         connectEffectDialogs(*m_editor);
         m_editor->setCaptureCommands([this] { return captureIcon(); }, [this] { showSnapShoot(); });
     }
@@ -113,8 +106,7 @@ void EditorHost::showSnapShoot() {
         m_snapShoot->setEditorCommand([this] { bringUp(); });
         if (m_clipboardViewer)
             m_snapShoot->setClipboardViewerCommand(m_clipboardViewer);
-        if (const QScreen* screen = QGuiApplication::primaryScreen())
-            m_snapShoot->move(screen->availableGeometry().center() - m_snapShoot->rect().center());
+        platform::placeWindow(*m_snapShoot, nullptr);
     }
     if (m_editor)
         m_editor->hide();

@@ -90,7 +90,9 @@ FileResult copyFile(const std::filesystem::path& from, const std::filesystem::pa
     }
 
     const std::filesystem::path folder = to.has_parent_path() ? to.parent_path() : ".";
-    std::string temporary = (folder / ("." + to.filename().native() + ".XXXXXX")).native();
+    // The temporary name adds 8 bytes: a name near the longest allowed must still leave room.
+    const std::string stem = to.filename().native().substr(0, 240);
+    std::string temporary = (folder / ("." + stem + ".XXXXXX")).native();
     Descriptor out(::mkostemp(temporary.data(), O_CLOEXEC));
     if (out.get() < 0)
         return {errno};

@@ -69,7 +69,7 @@ bool HelpViewer::showPage(const QString& page) {
     // from taking the mouse and keys.
     if (QWidget* modal = QApplication::activeModalWidget();
         modal != nullptr && viewer->parentWidget() != modal)
-        viewer->setParent(modal, Qt::Window);
+        viewer->setParent(modal, viewer->windowFlags()); // keeps it frameless
     browserOf(viewer)->setSource(QUrl(page));
     viewer->bringUp();
     return true;

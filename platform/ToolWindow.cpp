@@ -3,14 +3,13 @@
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/PlaceWindow.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
-#include "shell/WindowPlacement.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QSizeGrip>
 #include <QVBoxLayout>
 
@@ -60,13 +59,7 @@ void ToolWindow::bringUp() {
     if (!m_placed) {
         m_placed = true;
         const QWidget* active = QApplication::activeWindow();
-        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-            const QRect area = screen->availableGeometry();
-            if (active != nullptr && active != this)
-                move(shell::placeBeside(active->frameGeometry(), size(), area));
-            else
-                move(area.center() - rect().center());
-        }
+        placeWindow(*this, active != this ? active : nullptr);
     }
     show();
     raise();

@@ -20,6 +20,9 @@ enum class SchemeColour {
 
 inline constexpr std::size_t kSchemeColourCount = 7;
 
+// The viewing areas' own colour, before the user chooses another.
+inline constexpr icon::Colour kDefaultViewing = 0xD2D200;
+
 struct ColourScheme {
     std::array<icon::Colour, kSchemeColourCount> colours = defaults().colours;
 
@@ -32,7 +35,8 @@ struct ColourScheme {
     bool operator==(const ColourScheme&) const = default;
 
     static constexpr ColourScheme defaults() {
-        ColourScheme scheme{{0x808000, 0xE0E0E0, 0x808000, 0xDEFF6C, 0xFFFFFF, 0x808000, 0xD2D200}};
+        ColourScheme scheme{
+            {0x808000, 0xE0E0E0, 0x808000, 0xDEFF6C, 0xFFFFFF, 0x808000, kDefaultViewing}};
         return scheme;
     }
 };

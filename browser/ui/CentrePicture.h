@@ -3,6 +3,7 @@
 #include "browser/IconGrid.h"
 
 #include "icon/Colour.h"
+#include "shell/ColourScheme.h"
 
 #include <QWidget>
 
@@ -34,7 +35,7 @@ protected:
 private:
     const IconGrid& m_grid;
     GridView m_view;
-    icon::Colour m_background = 0xD2D200;
+    icon::Colour m_background = shell::kDefaultViewing;
 };
 
 } // namespace browser::ui

@@ -14,6 +14,7 @@
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
+#include "shell/ColourScheme.h"
 
 #include <QComboBox>
 #include <QListWidget>
@@ -146,8 +147,8 @@ void FenPrin::buildGrid() {
         connect(view, &IconGridView::backgroundRightPressed, this, [this] {
             hidePopUp();
             for (IconGridView* v : {m_fond, m_fond48}) {
-                v->setBackground(0xD2D200);
-                v->centre().setBackground(0xD2D200);
+                v->setBackground(shell::kDefaultViewing);
+                v->centre().setBackground(shell::kDefaultViewing);
             }
         });
         connect(&view->centre(), &CentrePicture::doubleClicked, this, &FenPrin::reloadCentre);

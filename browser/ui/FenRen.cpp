@@ -6,6 +6,7 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
+#include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
@@ -68,15 +69,12 @@ FenRen::FenRen(const RenameParts& parts, QWidget* parent)
             confirm();
     });
 
-    m_ok = new platform::GradientButton(QStringLiteral("OK"), this);
-    m_ok->setObjectName(QStringLiteral("CmdOK"));
-    m_ok->setGeometry(228, 140, 86, 20);
-    platform::setHelpText(*m_ok, QStringLiteral("Renommer l'icône"));
+    m_ok = platform::makeButton(this, "CmdOK", QStringLiteral("OK"),
+                                QStringLiteral("Renommer l'icône"), QRect(228, 140, 86, 20));
     connect(m_ok, &QAbstractButton::clicked, this, &FenRen::confirm);
-    auto* cancel = new platform::GradientButton(QStringLiteral("Annuler"), this);
-    cancel->setObjectName(QStringLiteral("CmdAnnul"));
-    cancel->setGeometry(322, 140, 86, 20);
-    platform::setHelpText(*cancel, QStringLiteral("Fermer sans renommer"));
+    auto* cancel =
+        platform::makeButton(this, "CmdAnnul", QStringLiteral("Annuler"),
+                             QStringLiteral("Fermer sans renommer"), QRect(322, 140, 86, 20));
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
 
     platform::applyScheme(*this);

@@ -6,6 +6,7 @@
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
@@ -81,10 +82,9 @@ FrmIcons::FrmIcons(PickerState& state, const shell::ColourScheme& colours,
     };
     const int buttonWidth = (width - 8 - 3 * 4) / 4;
     for (int i = 0; i < 4; ++i) {
-        auto* button = new platform::GradientButton(QString::fromUtf8(commands[i].caption), this);
-        button->setObjectName(QString::fromLatin1(commands[i].name));
-        button->setGeometry(4 + i * (buttonWidth + 4), lower + 22, buttonWidth, 24);
-        platform::setHelpText(*button, QString::fromUtf8(commands[i].help));
+        platform::makeButton(this, commands[i].name, QString::fromUtf8(commands[i].caption),
+                             QString::fromUtf8(commands[i].help),
+                             QRect(4 + i * (buttonWidth + 4), lower + 22, buttonWidth, 24));
     }
     auto button = [this](const char* name) {
         return findChild<platform::GradientButton*>(QString::fromLatin1(name));

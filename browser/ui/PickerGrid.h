@@ -2,6 +2,7 @@
 
 #include "browser/PickerCells.h"
 #include "icon/Colour.h"
+#include "shell/ColourScheme.h"
 
 #include <QWidget>
 
@@ -31,7 +32,7 @@ protected:
 private:
     const PickerCells* m_cells = nullptr;
     int m_selected = 0;
-    icon::Colour m_background = 0xD2D200;
+    icon::Colour m_background = shell::kDefaultViewing;
 };
 
 } // namespace browser::ui

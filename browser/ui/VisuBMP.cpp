@@ -6,6 +6,7 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
+#include "platform/MakeButton.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
 
@@ -18,6 +19,10 @@
 #include <QPainter>
 #include <QStyle>
 #include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace browser::ui {
 
@@ -47,11 +52,20 @@ private:
     const QImage& m_picture;
 };
 
-std::optional<QImage> readBitmap(const QString& path) {
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() > kMaxBitmapBytes)
+// The bitmap at `path` (the file system's bytes, so that any name opens). Only a regular file
+// is read, opening never waits on a pipe, and a large file is not decoded.
+std::optional<QImage> readBitmap(const QByteArray& path) {
+    const int fd = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0)
         return std::nullopt;
-    QImageReader reader(path, "bmp");
+    QFile file;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxBitmapBytes ||
+        !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return std::nullopt;
+    }
+    QImageReader reader(&file, "bmp");
     reader.setAllocationLimit(64);
     QImage image = reader.read();
     if (image.isNull())
@@ -70,10 +84,8 @@ VisuBMP::VisuBMP(const QString& folder, const shell::ColourScheme& colours, QWid
 
     auto* title = new platform::TitleButton(windowTitle(), this);
     title->setGeometry(4, 4, width() - 32, 22);
-    auto* close = new platform::GradientButton(QStringLiteral("X"), this);
-    close->setObjectName(QStringLiteral("CmdFermer"));
-    close->setGeometry(width() - 26, 4, 22, 22);
-    platform::setHelpText(*close, QStringLiteral("Fermer"));
+    auto* close = platform::makeButton(this, "CmdFermer", QStringLiteral("X"),
+                                       QStringLiteral("Fermer"), QRect(width() - 26, 4, 22, 22));
     connect(close, &QAbstractButton::clicked, this, &QDialog::accept);
 
     m_frame = new platform::GradientPanel(this);
@@ -93,10 +105,8 @@ VisuBMP::VisuBMP(const QString& folder, const shell::ColourScheme& colours, QWid
                  {"Cmd48", "48x48", "Visualisation en 48x48", 48}};
     int top = 108;
     for (const auto& size : sizes) {
-        auto* button = new platform::GradientButton(QString::fromLatin1(size.caption), this);
-        button->setObjectName(QString::fromLatin1(size.name));
-        button->setGeometry(8, top, 78, 24);
-        platform::setHelpText(*button, QString::fromUtf8(size.help));
+        auto* button = platform::makeButton(this, size.name, QString::fromLatin1(size.caption),
+                                            QString::fromUtf8(size.help), QRect(8, top, 78, 24));
         connect(button, &QAbstractButton::clicked, this,
                 [this, side = size.side] { setSide(side); });
         top += 28;
@@ -177,8 +187,7 @@ void VisuBMP::fillFiles() {
     for (const std::filesystem::path& name : BmpViewer::files(folder)) {
         auto* item = new QListWidgetItem(
             QFile::decodeName(QByteArray::fromStdString(name.native())), m_files);
-        item->setData(kPathRole,
-                      QFile::decodeName(QByteArray::fromStdString((folder / name).native())));
+        item->setData(kPathRole, QByteArray::fromStdString((folder / name).native()));
     }
 }
 
@@ -186,7 +195,7 @@ void VisuBMP::fileClicked(QListWidgetItem* item) {
     if (item == nullptr)
         return;
     // A file that cannot be read as a bitmap leaves the picture as it was.
-    if (auto image = readBitmap(item->data(kPathRole).toString())) {
+    if (auto image = readBitmap(item->data(kPathRole).toByteArray())) {
         m_picture = std::move(*image);
         m_view->update();
     }

@@ -1,14 +1,13 @@
 #include "capture/ui/FrmFullScr.h"
 
+#include "capture/ui/DesktopOverlay.h"
 #include "capture/ui/ZoneNodes.h"
 
 #include <QApplication>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
-#include <QScreen>
 
 #include <algorithm>
 #include <optional>
@@ -50,22 +49,14 @@ FrmFullScr::FrmFullScr(const QImage& desktop, CaptureZone& zone, QWidget* parent
     , m_desktop(desktop)
     , m_zone(zone) {
     setObjectName(QStringLiteral("FrmFullScr"));
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    QRect area(QPoint(0, 0), desktop.size());
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        area = screen->virtualGeometry();
-    setGeometry(area);
-    setWindowState(Qt::WindowFullScreen);
-    setCursor(Qt::CrossCursor);
-    if (area.width() > 0)
-        m_ratio = static_cast<double>(desktop.width()) / area.width();
+    m_ratio = coverDesktop(*this, desktop.size());
 
     m_pic = new QLabel(this);
     m_pic->setObjectName(QStringLiteral("pic"));
     QPixmap frozen = QPixmap::fromImage(desktop);
     frozen.setDevicePixelRatio(m_ratio);
     m_pic->setPixmap(frozen);
-    m_pic->setGeometry(0, 0, area.width(), area.height());
+    m_pic->setGeometry(rect());
     m_pic->installEventFilter(this);
 
     m_nodes = new ZoneNodes(this);
@@ -162,12 +153,7 @@ void FrmFullScr::showZoneSize() {
     m_nodes->show();
     m_nodes->raise();
     // The label sits below the zone, or above it near the bottom of the screen.
-    QPoint at(nodes.left(), nodes.bottom() + ZoneNodes::kHandle);
-    if (at.y() + m_size->height() > height())
-        at.setY(nodes.top() - ZoneNodes::kHandle - m_size->height());
-    at.setX(std::clamp(at.x(), 0, std::max(0, this->width() - m_size->width())));
-    at.setY(std::clamp(at.y(), 0, std::max(0, this->height() - m_size->height())));
-    m_size->move(at);
+    m_size->move(sizeLabelPlace(nodes, ZoneNodes::kHandle, m_size->size(), size()));
     m_size->raise();
 }
 

@@ -1,13 +1,12 @@
 #include "capture/ui/FrmSnap.h"
 
+#include "capture/ui/DesktopOverlay.h"
 #include "platform/Dialogs.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -32,16 +31,8 @@ FrmSnap::FrmSnap(const QImage& desktop, QWidget* parent)
     , m_desktop(desktop)
     , m_frame(desktop.size()) {
     setObjectName(QStringLiteral("FrmSnap"));
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    QRect area(QPoint(0, 0), desktop.size());
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        area = screen->virtualGeometry();
-    setGeometry(area);
-    setWindowState(Qt::WindowFullScreen);
+    m_ratio = coverDesktop(*this, desktop.size());
     setMouseTracking(true);
-    setCursor(Qt::CrossCursor);
-    if (area.width() > 0)
-        m_ratio = static_cast<double>(desktop.width()) / area.width();
 
     m_size = new QLabel(this);
     m_size->setObjectName(QStringLiteral("lblSize"));
@@ -67,12 +58,7 @@ void FrmSnap::changed() {
     m_size->setText(m_frame.sizeText());
     m_size->adjustSize();
     const QRect shown = toWindow(m_frame.rect());
-    QPoint at(shown.left(), shown.bottom() + 4);
-    if (at.y() + m_size->height() > height())
-        at.setY(shown.top() - 4 - m_size->height());
-    at.setX(std::clamp(at.x(), 0, std::max(0, width() - m_size->width())));
-    at.setY(std::clamp(at.y(), 0, std::max(0, height() - m_size->height())));
-    m_size->move(at);
+    m_size->move(sizeLabelPlace(shown, 4, m_size->size(), size()));
     update();
 }
 

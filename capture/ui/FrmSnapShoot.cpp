@@ -1,5 +1,6 @@
 #include "capture/ui/FrmSnapShoot.h"
 
+#include "capture/BitmapName.h"
 #include "capture/CaptureTexts.h"
 #include "capture/ui/FrmFullScr.h"
 #include "capture/ui/ScrolledPicture.h"
@@ -10,6 +11,7 @@
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
 #include "platform/HelpViewer.h"
+#include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
@@ -17,8 +19,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QFileInfo>
-#include <QRegularExpression>
 
 namespace capture::ui {
 
@@ -89,11 +89,9 @@ FrmSnapShoot::~FrmSnapShoot() = default;
 
 platform::GradientButton* FrmSnapShoot::addButton(const char* name, const QString& caption,
                                                   const char* help, int row) {
-    auto* button = new platform::GradientButton(caption, this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setGeometry(kButtonLeft, kFirstRow + row * kRowStep, kButtonWidth, kButtonHeight);
-    platform::setHelpText(*button, text(help));
-    return button;
+    return platform::makeButton(
+        this, name, caption, text(help),
+        QRect(kButtonLeft, kFirstRow + row * kRowStep, kButtonWidth, kButtonHeight));
 }
 
 void FrmSnapShoot::setEditorCommand(std::function<void()> command) {
@@ -162,16 +160,10 @@ void FrmSnapShoot::savePicture() {
     request.filter = text(kSaveFilter);
     request.fileName = text(kSaveName);
     const auto choice = platform::dialogs().saveFile(request);
-    if (!choice || choice->path.isEmpty())
+    const std::optional<QString> path = choice ? bitmapSavePath(choice->path) : std::nullopt;
+    if (!path)
         return;
-    QString path = choice->path;
-    // A pattern left in the name is not a file name: nothing is written.
-    if (QFileInfo(path).fileName().contains(QRegularExpression(QStringLiteral("[*?]"))))
-        return;
-    // A name typed without an extension is given the bitmap one.
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".BMP");
-    const icon::SaveResult result = icon::writeBmpFile(path, icon::Frame::fromImage(picture()));
+    const icon::SaveResult result = icon::writeBmpFile(*path, icon::Frame::fromImage(picture()));
     if (result)
         return;
     platform::Message message;

@@ -6,6 +6,7 @@
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowStyle.h"
@@ -40,16 +41,14 @@ VisuImg::VisuImg(const shell::ColourScheme& colours, QWidget* parent)
     m_caption->setObjectName(QStringLiteral("LblImg"));
     m_caption->setGeometry(8, kHeight - 38, kWidth - 240, 28);
 
-    auto* openButton = new platform::GradientButton(QStringLiteral("Ouvrir"), this);
-    openButton->setObjectName(QStringLiteral("CmdOuvrir"));
-    openButton->setGeometry(kWidth - 224, kHeight - 38, 104, 28);
-    platform::setHelpText(*openButton, QStringLiteral("Ouvrir une image BMP, PNG ou ICO"));
+    auto* openButton = platform::makeButton(this, "CmdOuvrir", QStringLiteral("Ouvrir"),
+                                            QStringLiteral("Ouvrir une image BMP, PNG ou ICO"),
+                                            QRect(kWidth - 224, kHeight - 38, 104, 28));
     connect(openButton, &QAbstractButton::clicked, this, &VisuImg::askForPicture);
 
-    auto* close = new platform::GradientButton(QStringLiteral("Fermer"), this);
-    close->setObjectName(QStringLiteral("CmdFermer"));
-    close->setGeometry(kWidth - 112, kHeight - 38, 104, 28);
-    platform::setHelpText(*close, QStringLiteral("Fermer"));
+    auto* close =
+        platform::makeButton(this, "CmdFermer", QStringLiteral("Fermer"), QStringLiteral("Fermer"),
+                             QRect(kWidth - 112, kHeight - 38, 104, 28));
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
 
     platform::applyScheme(*this, colours);

@@ -13,6 +13,7 @@
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
 #include "platform/HelpViewer.h"
+#include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "platform/WindowKeys.h"
@@ -147,11 +148,7 @@ void FrmIcoEd::buildWorkArea() {
 platform::GradientButton* FrmIcoEd::addButton(QWidget* parent, const char* name,
                                               const QString& caption, const QString& help,
                                               const QRect& place) {
-    auto* button = new platform::GradientButton(caption, parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setGeometry(place);
-    platform::setHelpText(*button, help);
-    return button;
+    return platform::makeButton(parent, name, caption, help, place);
 }
 
 void FrmIcoEd::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #include "capture/PictureFile.h"
 #include "tests/support/TestData.h"
+#include "capture/BitmapName.h"
 
 #include <QDir>
 #include <QFile>
@@ -57,6 +58,25 @@ TEST(PictureFile, RefusesWhatIsNotAPictureWithAMessage) {
         const auto loaded = PictureFile::load(pathOf(name));
         EXPECT_TRUE(loaded.picture.isNull()) << name.toStdString();
         EXPECT_FALSE(loaded.error.isEmpty()) << name.toStdString();
+    }
+}
+
+TEST(BitmapName, AddsTheExtensionAndRefusesPatterns) {
+    const struct {
+        const char* chosen;
+        const char* written; // nullptr: nothing is written
+    } cases[] = {{"/tmp/zone", "/tmp/zone.BMP"},
+                 {"/tmp/zone.bmp", "/tmp/zone.bmp"},
+                 {"/tmp/v1.2/zone", "/tmp/v1.2/zone.BMP"},
+                 {"/tmp/*.BMP", nullptr},
+                 {"/tmp/zone?.bmp", nullptr},
+                 {"", nullptr}};
+    for (const auto& c : cases) {
+        const auto path = capture::bitmapSavePath(QString::fromUtf8(c.chosen));
+        if (c.written == nullptr)
+            EXPECT_FALSE(path) << c.chosen;
+        else
+            EXPECT_EQ(path.value_or(QString()), QString::fromUtf8(c.written)) << c.chosen;
     }
 }
 
