@@ -4,13 +4,15 @@
 
 #include <QString>
 
+#include <filesystem>
+
 namespace shell {
 
 // What the windows of one run share: the preferences in force and the icon handed to the
 // editor. The main window loads it; every other window reads it when it loads.
 struct AppState {
     Preferences preferences;
-    QString iconToEdit;
+    std::filesystem::path iconToEdit; // the file system's bytes
     // The program's own icon library, the picker's first file, and the help the program opens.
     QString iconLibraryPath;
     QString iconLibraryName = QStringLiteral("Orvanne®.icl");

@@ -13,6 +13,8 @@
 #include "shell/AppState.h"
 #include "shell/DataFiles.h"
 
+#include "icon/FileBytes.h"
+
 #include <QComboBox>
 #include <QDir>
 #include <QEvent>
@@ -134,9 +136,18 @@ void FenPrin::changeEvent(QEvent* event) {
 }
 
 void FenPrin::openFolder(const QString& folder, MissingFolder report) {
-    const QString clean = QDir::cleanPath(QDir(folder).absolutePath());
-    const ScanResult result =
-        QFileInfo(clean).isDir() ? m_grid.openFolder(clean) : ScanResult::FolderMissing;
+    openFolder(icon::pathFromText(QDir::cleanPath(QDir(folder).absolutePath())), report);
+}
+
+void FenPrin::openFolder(const std::filesystem::path& folder, MissingFolder report) {
+    std::error_code error;
+    std::filesystem::path real = std::filesystem::absolute(folder, error).lexically_normal();
+    if (real.native().size() > 1 && real.native().back() == '/')
+        real = real.parent_path();
+    const QString clean = icon::textFromPath(real);
+    const ScanResult result = std::filesystem::is_directory(real, error)
+                                  ? m_grid.openFolder(real)
+                                  : ScanResult::FolderMissing;
     if (result == ScanResult::FolderMissing) {
         if (report == MissingFolder::Report)
             showFolderMissing();

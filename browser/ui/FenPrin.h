@@ -7,6 +7,8 @@
 #include <QSet>
 #include <QWidget>
 
+#include <filesystem>
+
 #include <functional>
 #include <memory>
 
@@ -37,6 +39,9 @@ public:
     // Opens a folder as a click in the folder list does (the start-up folder, tests). A folder
     // that cannot be read is reported, or passed over in silence as a drive that cannot be read.
     void openFolder(const QString& folder, MissingFolder report = MissingFolder::Report);
+    // The same for a folder named by the file system's bytes (its name need not be valid text).
+    void openFolder(const std::filesystem::path& folder,
+                    MissingFolder report = MissingFolder::Report);
     // The scan of the folder shown, keeping the index (after a copy, rename or delete).
     void reactualiser();
     // Applies the interface colours to every control of the window.

@@ -56,7 +56,7 @@ void EditorHost::bringUp() {
     editor().bringUp(currentFolder());
 }
 
-void EditorHost::bringUpWith(const QString& path) {
+void EditorHost::bringUpWith(const std::filesystem::path& path) {
     editor::ui::FrmIcoEd& window = editor();
     window.bringUp(currentFolder());
     window.handOver(path);

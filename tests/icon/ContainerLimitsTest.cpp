@@ -45,8 +45,9 @@ TEST(ContainerLimits, SectionCountsPastTheLoadersLimitAreRefused) {
         plan.sections = sections;
         const auto icons = readPeIcons(peFile(plan));
         EXPECT_EQ(icons.has_value(), readable) << sections << " sections";
-        if (icons)
+        if (icons) {
             EXPECT_EQ(icons->size(), 1u);
+        }
     }
 }
 
@@ -58,7 +59,8 @@ void put32(std::vector<std::uint8_t>& out, std::uint32_t v) {
 }
 
 void fourcc(std::vector<std::uint8_t>& out, const char* id) {
-    out.insert(out.end(), id, id + 4);
+    for (int i = 0; i < 4; ++i)
+        out.push_back(static_cast<std::uint8_t>(id[i]));
 }
 
 // An animated cursor of `frames` two-byte "icon" chunks (not real icons: only counted here).

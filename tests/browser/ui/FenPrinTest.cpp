@@ -1,3 +1,4 @@
+#include "icon/FileBytes.h"
 #include "tests/browser/ui/FenPrinFixture.h"
 
 #include "browser/ui/CentrePicture.h"
@@ -192,7 +193,8 @@ TEST_F(FenPrinFixture, TheCentrePictureHandsTheRealPathToTheEditor) {
     QTest::mousePress(centre, Qt::RightButton);
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(m_sound.clicks, 1);
-    EXPECT_EQ(shell::appState().iconToEdit, QDir(folder).filePath(QStringLiteral("Grand.ICO")));
+    EXPECT_EQ(shell::appState().iconToEdit,
+              icon::pathFromText(QDir(folder).filePath(QStringLiteral("Grand.ICO"))));
     EXPECT_EQ(m_window->pathText(), QDir(folder).filePath(QStringLiteral("grand.ico")).toLower());
 }
 
