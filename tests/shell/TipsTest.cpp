@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace {
 
 QString writeTips(const QTemporaryDir& dir, const QByteArray& content) {
@@ -50,6 +52,11 @@ TEST(Tips, AMissingFileIsReportedWithTheProgramsText) {
     shell::Tips tips;
     EXPECT_FALSE(tips.load(QStringLiteral("/nonexistent/Conseils.txt")));
     EXPECT_FALSE(tips.load(QString()));
+    // A FIFO in its place is not waited on.
+    QTemporaryDir dir;
+    const QString fifo = dir.filePath(QStringLiteral("Conseils.txt"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    EXPECT_FALSE(tips.load(fifo));
     tips.next();
     EXPECT_EQ(tips.index(), 0);
     EXPECT_EQ(shell::Tips::missingFileText(),
