@@ -156,7 +156,7 @@ void FenPrin::openFolder(const std::filesystem::path& folder, MissingFolder repo
         return;
     }
     m_folder = clean;
-    fillFolderList(clean);
+    fillFolderList(real);
     const int drive = m_drives->findData(volumeOf(clean, m_volumes));
     if (drive >= 0)
         m_drives->setCurrentIndex(drive);
@@ -172,7 +172,7 @@ void FenPrin::showFolderMissing() {
     platform::dialogs().message(message);
 }
 
-void FenPrin::fillFolderList(const QString& folder) {
+void FenPrin::fillFolderList(const std::filesystem::path& folder) {
     m_folders->clear();
     const auto items = folderItems(folder);
     for (const FolderItem& entry : items) {
@@ -180,7 +180,7 @@ void FenPrin::fillFolderList(const QString& folder) {
             style()->standardIcon(entry.open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon),
             entry.name, m_folders);
         item->setData(kDepthRole, entry.depth);
-        item->setData(kPathRole, entry.path);
+        item->setData(kPathRole, QByteArray::fromStdString(entry.file.native()));
     }
     m_folders->setCurrentRow(currentItem(items));
     m_folders->scrollToItem(m_folders->currentItem());
@@ -189,7 +189,7 @@ void FenPrin::fillFolderList(const QString& folder) {
 void FenPrin::folderItemClicked(QListWidgetItem* item) {
     hidePopUp();
     if (item != nullptr)
-        openFolder(item->data(kPathRole).toString());
+        openFolder(std::filesystem::path(item->data(kPathRole).toByteArray().toStdString()));
 }
 
 void FenPrin::driveChosen(int index) {

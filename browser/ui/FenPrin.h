@@ -76,7 +76,7 @@ private:
     void clearGrid();
     void enableCommands(bool on);
     void moveIndex(const std::function<void()>& step);
-    void fillFolderList(const QString& folder);
+    void fillFolderList(const std::filesystem::path& folder);
     void folderItemClicked(QListWidgetItem* item);
     void driveChosen(int index);
     void switchView();

@@ -1,5 +1,6 @@
 // Folders and files whose names are not valid text, and files that are not files, as the grid
 // meets them.
+#include "browser/FolderTree.h"
 #include "browser/IconGrid.h"
 #include "browser/ThumbnailProvider.h"
 
@@ -50,6 +51,23 @@ TEST(ByteNames, NamesThatAreNotTextShowAndOpen) {
     // Names Qt cannot spell cannot be removed through it.
     std::filesystem::remove_all(root / std::string("dossier\xe9\xff"));
     std::filesystem::remove(root / std::string("bad\xff\xfe.ico"));
+}
+
+// The folder list names folders by their bytes too, so that such a folder can be entered.
+TEST(ByteNames, TheFolderListKeepsTheBytesOfEachFolder) {
+    QTemporaryDir dir;
+    const std::filesystem::path root = icon::pathFromText(dir.path());
+    const std::filesystem::path odd = root / std::string("Z\xe9\xff");
+    std::filesystem::create_directories(odd / "dedans");
+    std::filesystem::create_directories(root / "a");
+    const auto items = browser::folderItems(root);
+    ASSERT_GE(items.size(), 3u);
+    EXPECT_EQ(items[items.size() - 2].file, root / "a");
+    EXPECT_EQ(items.back().file, odd);
+    const auto inside = browser::folderItems(odd);
+    EXPECT_EQ(inside[static_cast<std::size_t>(browser::currentItem(inside))].file, odd);
+    EXPECT_EQ(inside.back().file, odd / "dedans");
+    std::filesystem::remove_all(odd);
 }
 
 // A file replaced by a FIFO before its page is shown is an unreadable cell, at once.
