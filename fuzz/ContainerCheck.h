@@ -21,7 +21,7 @@ inline void quiet(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 // Assembling is checked on every icon of an input until this many bytes were assembled: enough
 // for thousands of small icons, while an input naming one large image many times still ends fast.
-inline constexpr std::size_t kAssemblyWorkPerInput = 16u * 1024u * 1024u;
+inline constexpr std::size_t kAssemblyWorkPerInput = 4u * 1024u * 1024u;
 
 inline void checkIcons(std::span<const std::uint8_t> bytes,
                        const std::optional<std::vector<icon::IconResource>>& icons) {
