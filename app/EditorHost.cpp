@@ -33,7 +33,7 @@ EditorHost::~EditorHost() = default;
 
 void EditorHost::attach(browser::ui::FenPrin& main) {
     m_main = &main;
-    main.setEditorLauncher([this](const QString& icon) { bringUpWith(icon); });
+    main.setEditorLauncher([this](const std::filesystem::path& icon) { bringUpWith(icon); });
     main.setCommandReady(QStringLiteral("CmdEditer"));
     if (auto* edit = main.findChild<platform::GradientButton*>(QStringLiteral("CmdEditer")))
         connect(edit, &QAbstractButton::clicked, this, &EditorHost::bringUp);
@@ -130,7 +130,7 @@ void EditorHost::bringUp() {
     editor().bringUp(currentFolder());
 }
 
-void EditorHost::bringUpWith(const QString& path) {
+void EditorHost::bringUpWith(const std::filesystem::path& path) {
     editor::ui::FrmIcoEd& window = editor();
     window.bringUp(currentFolder());
     window.handOver(path);

@@ -40,7 +40,7 @@ public:
     // `CmdEditer`: the editor comes up without a path.
     void bringUp();
     // The centre picture's right button: the path is handed to the editor's Fichier pad.
-    void bringUpWith(const QString& path);
+    void bringUpWith(const std::filesystem::path& path);
     // The start with "/open <path>" on the command line.
     void openAtStart(const QString& commandLine);
     // Closes the editor when it is open, through its question about unsaved changes; false

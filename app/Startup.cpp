@@ -76,7 +76,10 @@ void Startup::showMainWindow() {
     connect(m_main.get(), &browser::ui::FenPrin::aboutRequested, this, &Startup::showAbout);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         m_main->move(screen->availableGeometry().center() - m_main->rect().center());
-    m_main->openFolder(QDir::currentPath());
+    // The folder's own bytes: its name need not be valid text.
+    std::error_code error;
+    const std::filesystem::path start = std::filesystem::current_path(error);
+    m_main->openFolder(error ? std::filesystem::path("/") : start);
     m_editor.attach(*m_main);
     new MainWindowClose(*m_main, [this] { return m_editor.closeEditor(); });
     m_main->show();
@@ -93,6 +96,10 @@ void Startup::showMainWindow() {
 }
 
 void Startup::showTipsAtStart() {
+    // A settings file that could not be used was set aside while the main window loaded.
+    if (const std::optional<QString> notice = shell::Settings::takeNotice())
+        platform::dialogs().message(
+            {QStringLiteral("Orvanne®"), *notice, platform::MessageIcon::Exclamation});
     if (!m_main || !shell::Preferences::loadTipsAtStart(shell::Settings()))
         return;
     shell::ui::Conseils tips(m_main.get());

@@ -20,14 +20,14 @@ bool hasIcoSuffix(const char* name, std::size_t length) {
 }
 
 // A directory entry that is a file, following symbolic links as a file dialog would.
-bool isRegularFile(const QByteArray& folder, const dirent* entry) {
+bool isRegularFile(const std::string& folder, const dirent* entry) {
     if (entry->d_type == DT_REG)
         return true;
     if (entry->d_type != DT_LNK && entry->d_type != DT_UNKNOWN)
         return false;
     struct stat info {};
-    const QByteArray path = folder + entry->d_name;
-    return ::stat(path.constData(), &info) == 0 && S_ISREG(info.st_mode);
+    const std::string path = folder + entry->d_name;
+    return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode);
 }
 
 } // namespace
@@ -36,21 +36,29 @@ QString withTrailingSlash(const QString& folder) {
     return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
+std::filesystem::path withTrailingSlash(const std::filesystem::path& folder) {
+    const std::string& bytes = folder.native();
+    return !bytes.empty() && bytes.back() == '/' ? folder : std::filesystem::path(bytes + '/');
+}
+
 std::optional<std::vector<IconEntry>> scanIconFolder(const QString& folder) {
-    const QString base = withTrailingSlash(folder);
-    const QByteArray encoded = QFile::encodeName(base);
-    DIR* dir = ::opendir(encoded.constData());
+    const QByteArray bytes = QFile::encodeName(folder);
+    return scanIconFolder(std::filesystem::path(bytes.toStdString()));
+}
+
+std::optional<std::vector<IconEntry>> scanIconFolder(const std::filesystem::path& folder) {
+    const std::string base = withTrailingSlash(folder).native();
+    DIR* dir = ::opendir(base.c_str());
     if (dir == nullptr)
         return std::nullopt;
-    // Each name with its lower-cased form: the order and the shown path both come from it.
-    std::vector<std::pair<QString, QString>> names;
+    // Each name as the file system holds it, with the lower-cased text it is shown and sorted by.
+    std::vector<std::pair<std::string, QString>> names;
     while (const dirent* entry = ::readdir(dir)) {
         const std::size_t length = std::strlen(entry->d_name);
-        if (hasIcoSuffix(entry->d_name, length) && isRegularFile(encoded, entry)) {
-            QString name = QFile::decodeName(
+        if (hasIcoSuffix(entry->d_name, length) && isRegularFile(base, entry)) {
+            const QString shown = QFile::decodeName(
                 QByteArray::fromRawData(entry->d_name, static_cast<qsizetype>(length)));
-            QString lower = name.toLower();
-            names.emplace_back(std::move(name), std::move(lower));
+            names.emplace_back(std::string(entry->d_name, length), shown.toLower());
         }
     }
     ::closedir(dir);
@@ -60,11 +68,12 @@ std::optional<std::vector<IconEntry>> scanIconFolder(const QString& folder) {
         return a.second != b.second ? a.second < b.second : a.first < b.first;
     });
 
-    const QString shownBase = base.toLower();
+    const QString shownBase =
+        withTrailingSlash(QFile::decodeName(QByteArray::fromStdString(base))).toLower();
     std::vector<IconEntry> entries;
     entries.reserve(names.size());
     for (const auto& [name, lower] : names)
-        entries.push_back({base + name, shownBase + lower});
+        entries.push_back({std::filesystem::path(base + name), shownBase + lower});
     return entries;
 }
 

@@ -1,25 +1,72 @@
 #include "browser/FolderTree.h"
 
-#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <dirent.h>
+#include <sys/stat.h>
 
 namespace browser {
 
+namespace {
+
+QString shown(const std::string& bytes) {
+    return QFile::decodeName(QByteArray::fromStdString(bytes));
+}
+
+// The subfolders of `folder` (links to folders included), hidden ones left out, by the byte
+// names the file system gives.
+std::vector<std::string> subfolders(const std::string& folder) {
+    std::vector<std::string> names;
+    DIR* dir = ::opendir(folder.c_str());
+    if (dir == nullptr)
+        return names;
+    const std::string base = folder.back() == '/' ? folder : folder + '/';
+    while (const dirent* entry = ::readdir(dir)) {
+        if (entry->d_name[0] == '.')
+            continue;
+        bool isFolder = entry->d_type == DT_DIR;
+        if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
+            struct stat info {};
+            isFolder = ::stat((base + entry->d_name).c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+        }
+        if (isFolder)
+            names.emplace_back(entry->d_name);
+    }
+    ::closedir(dir);
+    return names;
+}
+
+} // namespace
+
 std::vector<FolderItem> folderItems(const QString& folder) {
+    const QByteArray bytes = QFile::encodeName(folder);
+    return folderItems(std::filesystem::path(bytes.toStdString()));
+}
+
+std::vector<FolderItem> folderItems(const std::filesystem::path& folder) {
     std::vector<FolderItem> items;
-    const QString clean = QDir::cleanPath(folder);
-    const QStringList parts = clean.split(QLatin1Char('/'), Qt::SkipEmptyParts);
-    items.push_back({QStringLiteral("/"), QStringLiteral("/"), 0, true});
-    QString path;
-    for (const QString& part : parts) {
-        path += QLatin1Char('/') + part;
-        items.push_back({path, part, static_cast<int>(items.size()), true});
+    const std::filesystem::path clean = folder.lexically_normal();
+    items.push_back({QStringLiteral("/"), QStringLiteral("/"), 0, true, "/"});
+    std::string path;
+    for (const std::filesystem::path& part : clean.relative_path()) {
+        if (part.empty())
+            continue;
+        path += '/' + part.native();
+        items.push_back(
+            {shown(path), shown(part.native()), static_cast<int>(items.size()), true, path});
     }
     const int depth = static_cast<int>(items.size());
-    QDir dir(clean.isEmpty() ? QStringLiteral("/") : clean);
-    const QStringList children =
-        dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
-    for (const QString& child : children)
-        items.push_back({dir.filePath(child), child, depth, false});
+    const std::string parent = path.empty() ? std::string("/") : path;
+    std::vector<std::pair<QString, std::string>> children;
+    for (std::string& name : subfolders(parent))
+        children.emplace_back(shown(name).toLower(), std::move(name));
+    // By name without regard to case, as the folder list has always been sorted.
+    std::sort(children.begin(), children.end());
+    for (const auto& [lower, name] : children) {
+        const std::string child = (path.empty() ? std::string() : path) + '/' + name;
+        items.push_back({shown(child), shown(name), depth, false, child});
+    }
     return items;
 }
 

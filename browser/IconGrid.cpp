@@ -2,7 +2,7 @@
 
 #include "icon/FileBytes.h"
 
-#include <QFileInfo>
+#include <QFile>
 
 #include <algorithm>
 
@@ -17,8 +17,12 @@ const GridGeometry& IconGrid::geometry() const {
     return m_view == GridView::Icons48 ? large : small;
 }
 
-ScanResult IconGrid::openFolder(const QString& folder) {
+ScanResult IconGrid::openFolder(const std::filesystem::path& folder) {
     return list(folder, false);
+}
+
+ScanResult IconGrid::openFolder(const QString& folder) {
+    return list(icon::pathFromText(folder), false);
 }
 
 ScanResult IconGrid::refresh() {
@@ -30,7 +34,11 @@ ScanResult IconGrid::switchView() {
     return refresh();
 }
 
-ScanResult IconGrid::list(const QString& folder, bool keepIndex) {
+QString IconGrid::folder() const {
+    return QFile::decodeName(QByteArray::fromStdString(m_folder.native()));
+}
+
+ScanResult IconGrid::list(const std::filesystem::path& folder, bool keepIndex) {
     auto scanned = scanIconFolder(folder);
     if (!scanned)
         return ScanResult::FolderMissing;
@@ -91,10 +99,14 @@ QString IconGrid::countText() const {
 
 Thumbnail IconGrid::load(const IconEntry& entry) const {
     Thumbnail thumbnail;
-    const auto bytes = icon::readFileBytes(entry.file);
+    // A cell reads at most this much: no icon file comes near it, and a huge file put in the
+    // folder must not fill the memory of a window that only shows it small.
+    constexpr std::size_t kMaxCellFileBytes = 64u * 1024u * 1024u;
+    icon::ReadError error = icon::ReadError::None;
+    const auto bytes = icon::readFileBytes(entry.file, kMaxCellFileBytes, &error);
     if (!bytes) {
-        thumbnail.state = QFileInfo::exists(entry.file) ? Thumbnail::State::Unreadable
-                                                        : Thumbnail::State::Missing;
+        thumbnail.state = error == icon::ReadError::Missing ? Thumbnail::State::Missing
+                                                            : Thumbnail::State::Unreadable;
         return thumbnail;
     }
     auto bitmap = m_provider.decode(*bytes, geometry().cellSize);
@@ -114,7 +126,7 @@ bool IconGrid::loadPage() {
         if (!index)
             continue;
         const IconEntry& entry = state().entries[static_cast<std::size_t>(*index - 1)];
-        if (m_cache.contains(entry.file))
+        if (m_cache.contains(entry.file.native()))
             continue;
         Thumbnail thumbnail = load(entry);
         // A file that has gone is never kept: it may come back before the next look. The
@@ -123,7 +135,7 @@ bool IconGrid::loadPage() {
             complete = false;
             continue;
         }
-        m_cache.insert(entry.file, std::move(thumbnail));
+        m_cache.insert_or_assign(entry.file.native(), std::move(thumbnail));
     }
     return complete;
 }
@@ -133,8 +145,8 @@ const Thumbnail* IconGrid::cell(int cell) const {
     if (!index)
         return nullptr;
     const auto found =
-        m_cache.constFind(state().entries[static_cast<std::size_t>(*index - 1)].file);
-    return found == m_cache.constEnd() ? nullptr : &found.value();
+        m_cache.find(state().entries[static_cast<std::size_t>(*index - 1)].file.native());
+    return found == m_cache.end() ? nullptr : &found->second;
 }
 
 bool IconGrid::reloadCentre() {
@@ -143,10 +155,10 @@ bool IconGrid::reloadCentre() {
         return true;
     Thumbnail thumbnail = load(*entry);
     if (thumbnail.state == Thumbnail::State::Missing) {
-        m_cache.remove(entry->file);
+        m_cache.erase(entry->file.native());
         return false;
     }
-    m_cache.insert(entry->file, std::move(thumbnail));
+    m_cache.insert_or_assign(entry->file.native(), std::move(thumbnail));
     return true;
 }
 

@@ -6,10 +6,12 @@
 
 #include "icon/IconBitmap.h"
 
-#include <QHash>
 #include <QString>
 
+#include <filesystem>
 #include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace browser {
@@ -37,6 +39,7 @@ public:
 
     // A change of folder: lists it and centres its first icon. When the folder cannot be read
     // everything stays as it was.
+    ScanResult openFolder(const std::filesystem::path& folder);
     ScanResult openFolder(const QString& folder);
     // The same folder listed again, keeping the view's index within 1 .. count.
     ScanResult refresh();
@@ -52,7 +55,9 @@ public:
     void last() { moveTo(count()); }
     void clickCell(int cell);
 
-    QString folder() const { return m_folder; }
+    // The folder shown, with its trailing "/": as text, and as the file system's bytes.
+    QString folder() const;
+    const std::filesystem::path& folderPath() const { return m_folder; }
     int count() const { return static_cast<int>(state().entries.size()); }
     int current() const { return state().current; }
     // The list entry (1-based) a cell shows, or nothing for an empty cell.
@@ -79,15 +84,15 @@ private:
     ViewState& state() { return m_states[m_view == GridView::Icons48 ? 1 : 0]; }
     const ViewState& state() const { return m_states[m_view == GridView::Icons48 ? 1 : 0]; }
     void moveTo(int index);
-    ScanResult list(const QString& folder, bool keepIndex);
+    ScanResult list(const std::filesystem::path& folder, bool keepIndex);
     Thumbnail load(const IconEntry& entry) const;
 
     const ThumbnailProvider& m_provider;
     GridView m_view = GridView::Icons32;
-    QString m_folder;
+    std::filesystem::path m_folder;
     ViewState m_states[2];
     // Decoded pictures of the view in use, kept while the folder is shown.
-    QHash<QString, Thumbnail> m_cache;
+    std::unordered_map<std::string, Thumbnail> m_cache;
 };
 
 } // namespace browser

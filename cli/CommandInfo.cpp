@@ -15,10 +15,10 @@ QString formatName(icon::ImageFormat format) {
 
 int runInfo(const Arguments& args, Console& console) {
     const QString path = args.at(0);
-    const std::optional<std::vector<std::uint8_t>> bytes = readInput(path, console);
-    if (!bytes)
+    const std::shared_ptr<const icon::MappedFile> file = readInput(path, console);
+    if (!file)
         return kRefused;
-    const std::optional<icon::IcoDirectory> directory = icon::readIcoDirectory(*bytes);
+    const std::optional<icon::IcoDirectory> directory = icon::readIcoDirectory(file->bytes());
     if (!directory)
         return console.fail(
             kRefused, QStringLiteral("%1 n'est pas un fichier ICO ou CUR.").arg(quoted(path)));
@@ -42,7 +42,7 @@ int runInfo(const Arguments& args, Console& console) {
     }
 
     const std::optional<icon::ChosenImage> chosen =
-        icon::decodeChosenImage(*bytes, *directory, icon::kIconSize);
+        icon::decodeChosenImage(file->bytes(), *directory, icon::kIconSize);
     if (!chosen)
         return console.fail(kRefused,
                             QStringLiteral("aucune image de %1 n'est lisible.").arg(quoted(path)));

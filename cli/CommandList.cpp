@@ -12,8 +12,7 @@ namespace cli {
 namespace {
 
 // "16×16 4 bits, 32×32 32 bits PNG, ..." for the images of one icon.
-QString imagesText(const std::vector<std::uint8_t>& ico) {
-    const std::optional<icon::IcoDirectory> directory = icon::readIcoDirectory(ico);
+QString imagesText(const std::optional<icon::IcoDirectory>& directory) {
     if (!directory)
         return QStringLiteral("aucune image");
     QStringList parts;
@@ -34,7 +33,8 @@ QString imagesText(const std::vector<std::uint8_t>& ico) {
 
 } // namespace
 
-// The icons a file holds, as the icon picker counts them.
+// The icons a file holds, as the icon picker counts them. Each icon's images are described where
+// they lie in the file: nothing is assembled, however many icons share how large an image.
 int runList(const Arguments& args, Console& console) {
     const QString path = args.at(0);
     const std::optional<icon::IconSource> source = openSource(path, console);
@@ -54,7 +54,7 @@ int runList(const Arguments& args, Console& console) {
         if (named)
             out << QStringLiteral("%1  ").arg(source->resourceName(n),
                                               -static_cast<int>(nameWidth));
-        out << imagesText(source->icoBytes(n)) << "\n";
+        out << imagesText(source->directory(n)) << "\n";
     }
     return kSuccess;
 }

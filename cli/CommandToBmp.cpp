@@ -41,10 +41,11 @@ int runToBmp(const Arguments& args, Console& console) {
         return console.fail(kUsage, QStringLiteral("--background attend une couleur RRGGBB en "
                                                    "hexadécimal, par exemple C0C0C0."));
 
-    const std::optional<std::vector<std::uint8_t>> bytes = readInput(input, console);
-    if (!bytes)
+    const std::shared_ptr<const icon::MappedFile> file = readInput(input, console);
+    if (!file)
         return kRefused;
-    const std::optional<icon::IconBitmap> bitmap = icon::decodeIcon(*bytes, sizeText.toInt());
+    const std::optional<icon::IconBitmap> bitmap =
+        icon::decodeIcon(file->bytes(), sizeText.toInt());
     if (!bitmap)
         return console.fail(kRefused,
                             QStringLiteral("%1 ne contient aucune icône.").arg(quoted(input)));

@@ -13,12 +13,12 @@ namespace cli {
 int runToIco(const Arguments& args, Console& console) {
     const QString input = args.at(0);
     const QString output = args.at(1);
-    const std::optional<std::vector<std::uint8_t>> bytes = readInput(input, console);
-    if (!bytes)
+    std::shared_ptr<const icon::MappedFile> file = readInput(input, console);
+    if (!file)
         return kRefused;
-    const std::optional<icon::IconSource> source = icon::IconSource::fromBytes(*bytes);
+    const std::optional<icon::IconSource> source = icon::IconSource::fromFile(file);
     if (!source) {
-        if (!icon::isLoadablePicture(*bytes))
+        if (!icon::isLoadablePicture(file->bytes()))
             return console.fail(
                 kRefused, QStringLiteral("%1 n'est pas une image lisible.").arg(quoted(input)));
         // A picture that holds no icon (a PNG named .ico) would open as a blank icon in the
@@ -33,7 +33,7 @@ int runToIco(const Arguments& args, Console& console) {
         return console.fail(kRefused,
                             QStringLiteral("%1 ne contient aucune icône.").arg(quoted(input)));
     const int n = index.number.value_or(1);
-    const std::optional<icon::IconPlanes> planes = icon::decodeIconPlanes(source->icoBytes(n));
+    const std::optional<icon::IconPlanes> planes = icon::decodeIconPlanes(source->ico(n).bytes);
     if (!planes)
         return console.fail(kRefused, QStringLiteral("l'icône n°%1 de %2 n'a aucune image lisible.")
                                           .arg(n)

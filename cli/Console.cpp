@@ -17,4 +17,9 @@ int Console::fail(int code, const QString& message) {
     return code;
 }
 
+void Console::warn(const QString& message) {
+    m_out.flush();
+    m_err << "orvanne-icons : attention : " << message << Qt::endl;
+}
+
 } // namespace cli

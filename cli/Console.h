@@ -21,6 +21,8 @@ public:
     QTextStream& out() { return m_out; }
     // Prints "orvanne-icons : <message>" on standard error and gives `code` back.
     int fail(int code, const QString& message);
+    // Prints "orvanne-icons : attention : <message>" on standard error; the command goes on.
+    void warn(const QString& message);
 
 private:
     QTextStream m_out;

@@ -5,10 +5,16 @@
 namespace cli {
 
 std::optional<icon::IconSource> openSource(const QString& path, Console& console) {
-    std::optional<std::vector<std::uint8_t>> bytes = readInput(path, console);
-    if (!bytes)
+    std::shared_ptr<const icon::MappedFile> file = readInput(path, console);
+    if (!file)
         return std::nullopt;
-    std::optional<icon::IconSource> source = icon::IconSource::fromBytes(std::move(*bytes));
+    std::optional<icon::IconSource> source = icon::IconSource::fromFile(std::move(file));
+    if (source && source->iconsLeftOut() > 0)
+        console.warn(QStringLiteral("%1 contient %2 icônes de plus que les %3 lues : elles sont "
+                                    "ignorées.")
+                         .arg(quoted(path))
+                         .arg(source->iconsLeftOut())
+                         .arg(source->count()));
     if (!source)
         console.fail(kRefused,
                      QStringLiteral("%1 n'est ni une icône, ni un curseur, ni un curseur animé, "

@@ -45,6 +45,7 @@ bool Document::SavePrompt() {
 void Document::NewIcon() {
     m_engine.NewIcon();
     m_iconPath = kUntitled;
+    m_iconFile.clear();
     m_iconFileTitle.clear();
     m_shownTitle.clear();
     m_savedOk = false;
@@ -63,15 +64,22 @@ bool Document::OpenIcon() {
         return false;
     QString path;
     QString title;
+    std::filesystem::path file;
     if (m_requests.any()) {
         path = m_handedPath;
         title = fileTitleOf(path);
         // The hand-over is used up, whether the file opens or not: the next Open asks again.
         m_requests.reset();
-        if (!QFileInfo::exists(path))
-            path = findIgnoringCase(path);
-        if (path.isEmpty())
-            return false;
+        std::error_code error;
+        if (!m_handedFile.empty() && std::filesystem::exists(m_handedFile, error)) {
+            file = m_handedFile;
+        } else {
+            if (!QFileInfo::exists(path))
+                path = findIgnoringCase(path);
+            if (path.isEmpty())
+                return false;
+        }
+        m_handedFile.clear();
     } else {
         const auto chosen = m_host.chooseOpenPath(
             {kProgram + QStringLiteral(" - Ouvrir"), m_openFolder, QString(), kFilter});
@@ -80,12 +88,15 @@ bool Document::OpenIcon() {
         path = *chosen;
         title = fileTitleOf(path);
     }
-    const auto bytes = icon::readFileBytes(path);
+    if (file.empty())
+        file = icon::pathFromText(path);
+    const auto bytes = icon::readFileBytes(file);
     if (!bytes || !icon::isLoadablePicture(*bytes))
         return false;
 
     NewIcon();
     m_iconPath = path;
+    m_iconFile = file;
     m_iconFileTitle = fileTitleOf(path);
     m_shownTitle = title;
     m_openFolder = QFileInfo(path).absolutePath();
@@ -101,9 +112,9 @@ bool Document::OpenIcon() {
 bool Document::SaveIcon(SaveMode mode) {
     if (mode == SaveMode::Save && m_iconPath != kUntitled) {
         if (!m_multiImageFile)
-            return write(m_iconPath);
+            return write(m_iconFile);
         if (m_host.warnSeveralImages(severalImagesText(m_iconFileTitle)) == DocumentHost::Reply::Ok)
-            return write(m_iconPath);
+            return write(m_iconFile);
         return SaveIcon(SaveMode::SaveAs);
     }
     // A file of several images proposes "*.ico", so that the user types a new name.
@@ -117,17 +128,21 @@ bool Document::SaveIcon(SaveMode mode) {
     QString path = *chosen;
     if (QFileInfo(path).suffix().isEmpty())
         path += QStringLiteral(".ico");
-    return write(path);
+    return write(icon::pathFromText(path));
 }
 
-bool Document::write(const QString& path) {
+bool Document::write(const std::filesystem::path& file) {
     m_engine.DropSelection();
     m_host.setBusy(true);
-    const icon::SaveResult result = icon::writeIconFile(path, m_engine.planes());
+    const icon::SaveResult result = icon::writeIconFile(file, m_engine.planes());
     m_host.setBusy(false);
+    // A failed save (a full disk, a protected file) changes nothing: the path, the title and
+    // the Modified state stay as they were, and the old file is untouched.
     if (!result)
         return false;
+    const QString path = file == m_iconFile ? m_iconPath : icon::textFromPath(file);
     m_iconPath = path;
+    m_iconFile = file;
     m_iconFileTitle = m_shownTitle = fileTitleOf(path);
     m_savedOk = true;
     m_engine.setModified(false);
@@ -156,7 +171,14 @@ bool Document::recall() {
     return OpenIcon();
 }
 
+void Document::handOver(const std::filesystem::path& file, OpenRequest who) {
+    m_handedPath = icon::textFromPath(file);
+    m_handedFile = file;
+    m_requests.set(static_cast<std::size_t>(who));
+}
+
 void Document::handOver(const QString& path, OpenRequest who) {
+    m_handedFile.clear();
     m_handedPath = path;
     m_requests.set(static_cast<std::size_t>(who));
 }
@@ -165,8 +187,10 @@ void Document::activate(const QString& currentFolder) {
     if (!currentFolder.isEmpty())
         m_openFolder = QDir::cleanPath(currentFolder);
     const QString last = m_host.lastIcon();
-    if (!m_requests.any())
+    if (!m_requests.any()) {
         m_handedPath = last;
+        m_handedFile.clear();
+    }
     m_recallEnabled = !last.isEmpty();
 }
 

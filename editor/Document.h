@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <bitset>
+#include <filesystem>
 #include <optional>
 
 namespace editor {
@@ -29,6 +30,8 @@ public:
     Document(IconEditor& engine, DocumentHost& host);
 
     const QString& iconPath() const { return m_iconPath; }
+    // The file the document was opened from or saved to, as the file system's bytes.
+    const std::filesystem::path& iconFile() const { return m_iconFile; }
     const QString& iconFileTitle() const { return m_iconFileTitle; }
     // "Orvanne® - Test.ico"; a new icon shows "Orvanne® - Sans nom".
     QString caption() const;
@@ -54,6 +57,9 @@ public:
 
     // A path to open at the next OpenIcon without a dialog.
     void handOver(const QString& path, OpenRequest who);
+    // The same for a file named by the file system's bytes (the browser's: a name need not be
+    // valid text, and is opened and saved as it is).
+    void handOver(const std::filesystem::path& file, OpenRequest who);
     // When the window is brought up: the Open dialog starts on the browser's folder, and the
     // recall follows the last icon stored.
     void activate(const QString& currentFolder);
@@ -77,16 +83,18 @@ public:
     static QString fileTitleOf(const QString& path);
 
 private:
-    bool write(const QString& path);
+    bool write(const std::filesystem::path& file);
 
     IconEditor& m_engine;
     DocumentHost& m_host;
     QString m_iconPath = kUntitled;
+    std::filesystem::path m_iconFile;
     QString m_iconFileTitle;
     QString m_shownTitle; // what the caption shows, proper case kept
     bool m_savedOk = false;
     bool m_multiImageFile = false;
     QString m_handedPath;
+    std::filesystem::path m_handedFile; // when handed as bytes; empty otherwise
     std::bitset<4> m_requests;
     QString m_openFolder;
     bool m_recallEnabled = false;

@@ -2,6 +2,9 @@
 
 #include "icon/ByteReader.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace icon {
 
 namespace {
@@ -19,9 +22,8 @@ void put32(std::vector<std::uint8_t>& out, std::size_t at, std::uint32_t v) {
     put16(out, at + 2, v / 65536);
 }
 
-std::vector<std::uint8_t> assembleGroup(std::span<const std::uint8_t> file,
-                                        const std::vector<GroupImage>& images) {
-    // Keep the images that fit under the limit, then lay them out.
+// The images that fit under the limit and the bytes they make with their directory.
+std::pair<std::size_t, std::size_t> groupLayout(const std::vector<GroupImage>& images) {
     std::size_t kept = 0;
     std::size_t total = kHeader;
     for (const GroupImage& image : images) {
@@ -31,6 +33,12 @@ std::vector<std::uint8_t> assembleGroup(std::span<const std::uint8_t> file,
         total += kEntry + image.size;
         ++kept;
     }
+    return {kept, total};
+}
+
+std::vector<std::uint8_t> assembleGroup(std::span<const std::uint8_t> file,
+                                        const std::vector<GroupImage>& images) {
+    const auto [kept, total] = groupLayout(images);
     std::vector<std::uint8_t> out(total, 0);
     put16(out, 2, 1);
     put16(out, 4, static_cast<std::uint32_t>(kept));
@@ -65,6 +73,20 @@ std::uint16_t imageDepth(const ByteReader& r, std::size_t offset) {
 }
 
 } // namespace
+
+std::size_t keptImages(const std::vector<GroupImage>& images) {
+    return groupLayout(images).first;
+}
+
+std::size_t assembledSize(std::span<const std::uint8_t> file, const IconResource& icon) {
+    const ByteReader r(file);
+    if (icon.form == IconResource::Form::Embedded)
+        return r.contains(icon.offset, icon.size) ? icon.size : 0;
+    for (const GroupImage& image : icon.images)
+        if (!r.contains(image.offset, image.size))
+            return 0;
+    return groupLayout(icon.images).second;
+}
 
 std::vector<std::uint8_t> cursorAsIcon(std::span<const std::uint8_t> bytes) {
     std::vector<std::uint8_t> out(bytes.begin(), bytes.end());

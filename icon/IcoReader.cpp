@@ -89,6 +89,20 @@ std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes
     return directory;
 }
 
+IcoImageInfo describeImage(std::span<const std::uint8_t> image, int directoryWidth,
+                           int directoryHeight, int directoryBitCount) {
+    IcoImageInfo info;
+    info.directoryWidth = directoryWidth == 0 ? 256 : directoryWidth;
+    info.directoryHeight = directoryHeight == 0 ? 256 : directoryHeight;
+    info.directoryBitCount = directoryBitCount;
+    info.size = static_cast<std::uint32_t>(std::min<std::size_t>(image.size(), UINT32_MAX));
+    info.width = info.directoryWidth;
+    info.height = info.directoryHeight;
+    info.bitDepth = directoryBitCount;
+    readImageHeader(image, info);
+    return info;
+}
+
 std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes, const IcoImageInfo& info,
                                       int outputWidth, int outputHeight) {
     const std::span<const std::uint8_t> data = imageBytes(bytes, info.offset);

@@ -45,6 +45,11 @@ struct IcoDirectory {
 // Nothing when the bytes are not an ICO or CUR file (or hold no image at all).
 std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes);
 
+// What the header of one image says, its data being `image` (the directory's values as given,
+// 0 meaning 256), without reading the pixels: how a listing describes an image in place.
+IcoImageInfo describeImage(std::span<const std::uint8_t> image, int directoryWidth,
+                           int directoryHeight, int directoryBitCount);
+
 // Decodes one image of the file at its own size, or brought to outputWidth×outputHeight by
 // dropping or repeating pixels. Nothing when its data is unusable.
 std::optional<IconBitmap> decodeImage(std::span<const std::uint8_t> bytes, const IcoImageInfo& info,

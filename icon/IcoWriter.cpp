@@ -85,6 +85,11 @@ IconFileBytes encodeIconFile(const IconPlanes& icon) {
     return bytes;
 }
 
+SaveResult writeIconFile(const std::filesystem::path& path, const IconPlanes& icon) {
+    const IconFileBytes bytes = encodeIconFile(icon);
+    return saveFileSafely(path, bytes, true);
+}
+
 SaveResult writeIconFile(const QString& path, const IconPlanes& icon) {
     const IconFileBytes bytes = encodeIconFile(icon);
     return saveFileSafely(path, bytes, true);

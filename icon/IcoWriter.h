@@ -26,6 +26,7 @@ std::uint8_t packMaskByte(std::string_view bits);
 IconFileBytes encodeIconFile(const IconPlanes& icon);
 
 // Writes the icon to `path`. A longer existing file keeps its bytes beyond the 3262 written.
+SaveResult writeIconFile(const std::filesystem::path& path, const IconPlanes& icon);
 SaveResult writeIconFile(const QString& path, const IconPlanes& icon);
 
 } // namespace icon

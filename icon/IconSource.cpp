@@ -54,23 +54,48 @@ Found identify(std::span<const std::uint8_t> bytes) {
 
 } // namespace
 
-IconSource::IconSource(Kind kind, std::vector<std::uint8_t> bytes, std::vector<IconResource> icons)
-    : m_kind(kind)
-    , m_bytes(std::make_shared<const std::vector<std::uint8_t>>(std::move(bytes)))
-    , m_icons(std::move(icons)) {}
+std::optional<IconSource> IconSource::build(std::shared_ptr<const Content> content) {
+    const std::span<const std::uint8_t> bytes = content->bytes();
+    IconSource source;
+    const ByteReader r(bytes);
+    if (r.u32(0) == 0x46464952 && r.u32(8) == 0x4E4F4341) { // "RIFF" .. "ACON"
+        std::optional<std::vector<IconResource>> frames =
+            readAniIcons(bytes, source.m_iconsLeftOut);
+        if (!frames)
+            return std::nullopt;
+        source.m_kind = Kind::AnimatedCursor;
+        source.m_icons = std::move(*frames);
+    } else {
+        Found found = identify(bytes);
+        if (!found)
+            return std::nullopt;
+        source.m_kind = found->first;
+        source.m_icons = std::move(found->second);
+    }
+    source.m_content = std::move(content);
+    return source;
+}
 
 std::optional<IconSource> IconSource::fromBytes(std::vector<std::uint8_t> bytes) {
-    Found found = identify(bytes);
-    if (!found)
+    auto content = std::make_shared<Content>();
+    content->owned = std::move(bytes);
+    return build(std::move(content));
+}
+
+std::optional<IconSource> IconSource::fromFile(std::shared_ptr<const MappedFile> file) {
+    if (!file)
         return std::nullopt;
-    return IconSource(found->first, std::move(bytes), std::move(found->second));
+    auto content = std::make_shared<Content>();
+    content->mapped = std::move(file);
+    return build(std::move(content));
+}
+
+std::optional<IconSource> IconSource::open(const std::filesystem::path& path) {
+    return fromFile(MappedFile::open(path));
 }
 
 std::optional<IconSource> IconSource::open(const QString& path) {
-    std::optional<std::vector<std::uint8_t>> bytes = readFileBytes(path);
-    if (!bytes)
-        return std::nullopt;
-    return fromBytes(std::move(*bytes));
+    return open(pathFromText(path));
 }
 
 const IconResource* IconSource::resource(int n) const {
@@ -79,15 +104,65 @@ const IconResource* IconSource::resource(int n) const {
     return &m_icons[static_cast<std::size_t>(n - 1)];
 }
 
-std::vector<std::uint8_t> IconSource::icoBytes(int n) const {
+IcoView IconSource::ico(int n) const {
+    IcoView view;
     const IconResource* icon = resource(n);
     if (!icon)
-        return {};
-    return assembleIco(*m_bytes, *icon);
+        return view;
+    const ByteReader r(bytes());
+    // An icon file lying whole in the file is its own ICO file: no copy.
+    if (icon->form == IconResource::Form::Embedded && r.contains(icon->offset, icon->size) &&
+        r.u16(icon->offset + 2) != 2) {
+        view.bytes = bytes().subspan(icon->offset, icon->size);
+        return view;
+    }
+    view.assembled = assembleIco(bytes(), *icon);
+    view.bytes = view.assembled;
+    return view;
+}
+
+std::vector<std::uint8_t> IconSource::icoBytes(int n) const {
+    IcoView view = ico(n);
+    if (!view.assembled.empty())
+        return std::move(view.assembled);
+    return {view.bytes.begin(), view.bytes.end()};
+}
+
+std::size_t IconSource::icoSize(int n) const {
+    const IconResource* icon = resource(n);
+    return icon ? assembledSize(bytes(), *icon) : 0;
+}
+
+std::size_t IconSource::totalIcoBytes() const {
+    std::size_t total = 0;
+    for (const IconResource& icon : m_icons)
+        total = std::min(total + assembledSize(bytes(), icon), SIZE_MAX / 2);
+    return total;
+}
+
+std::optional<IcoDirectory> IconSource::directory(int n) const {
+    const IconResource* icon = resource(n);
+    if (!icon)
+        return std::nullopt;
+    if (icon->form == IconResource::Form::Embedded)
+        return readIcoDirectory(ByteReader(bytes()).slice(icon->offset, icon->size));
+    if (assembledSize(bytes(), *icon) == 0)
+        return std::nullopt;
+    IcoDirectory directory;
+    const std::size_t kept = keptImages(icon->images);
+    directory.images.reserve(kept);
+    for (std::size_t i = 0; i < kept; ++i) {
+        const GroupImage& image = icon->images[i];
+        directory.images.push_back(describeImage(bytes().subspan(image.offset, image.size),
+                                                 image.width, image.height, image.bitCount));
+    }
+    if (directory.images.empty())
+        return std::nullopt;
+    return directory;
 }
 
 IconPlanes IconSource::planes(int n) const {
-    return decodeIconPlanes(icoBytes(n)).value_or(IconPlanes::blank());
+    return decodeIconPlanes(ico(n).bytes).value_or(IconPlanes::blank());
 }
 
 QString IconSource::resourceName(int n) const {

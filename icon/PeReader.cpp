@@ -18,6 +18,9 @@ constexpr std::uint32_t kHighBit = 0x80000000u;
 constexpr std::size_t kMaxNameChars = 256;
 // How many languages of one icon are looked through for the group's own language.
 constexpr std::size_t kMaxLanguagesSearched = 64;
+// The system's loader refuses an image of more sections than this; so does this reader, which
+// looks through them for every resource it follows.
+constexpr std::size_t kMaxSections = 96;
 
 struct Section {
     std::uint32_t virtualAddress = 0;
@@ -161,6 +164,8 @@ std::optional<PeLayout> readLayout(const ByteReader& r) {
         return std::nullopt;
     }
     const std::size_t sectionTable = opt + optionalSize;
+    if (sectionCount > kMaxSections)
+        return std::nullopt;
     if (!r.contains(sectionTable, sectionCount * 40) || r.failed())
         return std::nullopt;
     PeLayout layout;

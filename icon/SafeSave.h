@@ -2,7 +2,11 @@
 
 #include <QString>
 
+#include <sys/types.h>
+
+#include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <span>
 
 namespace icon {
@@ -25,11 +29,20 @@ struct SaveResult {
 };
 
 // Writes `content` to `path` so that a failure loses nothing: the whole new content goes to a
-// temporary file in the same folder, which then replaces the target, keeping its permissions.
+// temporary file in the same folder, flushed to the disk, which then replaces the target,
+// keeping its permissions. Every step is checked (each write, the flush, the close, the
+// rename): on any failure the temporary file is removed and the target is as it was.
 // With keepTail, the bytes of the existing file beyond content.size() follow the new content,
 // as the icon editor has always left them. A target or folder that cannot be written fails
 // before anything is touched.
+SaveResult saveFileSafely(const std::filesystem::path& path, std::span<const std::uint8_t> content,
+                          bool keepTail);
 SaveResult saveFileSafely(const QString& path, std::span<const std::uint8_t> content,
                           bool keepTail);
+
+// The system call every save writes its bytes with. Tests put one in that fails part-way, to
+// see a failing disk handled without needing one; nullptr puts back the system's own.
+using WriteFunction = ssize_t (*)(int fd, const void* data, std::size_t count);
+void setWriteFunction(WriteFunction write);
 
 } // namespace icon

@@ -43,9 +43,9 @@ for source in "$root"/fuzz/fuzz_*.cpp; do
             find "$testdata/$folder" -maxdepth 1 -type f -exec cp {} "$seeds/" \;
         done <"$root/fuzz/$name.seeds"
     fi
-    # Room for the largest seed, and for real icons of 256×256 at 32 bits.
+    # Room for the largest seed, and for files whose icons share images of a megabyte.
     largest=$(find "$seeds" -type f -printf '%s\n' | sort -n | tail -1)
-    max_len=$(( ${largest:-0} > 300000 ? ${largest:-0} : 300000 ))
+    max_len=$(( ${largest:-0} > 1100000 ? ${largest:-0} : 1100000 ))
     log="$out/logs/$name.log"
     echo "Fuzzing $name for ${seconds} s (seeds: $(find "$seeds" -type f | wc -l) files)"
     if "$out/bin/$name" -max_total_time="$seconds" -max_len="$max_len" -timeout=10 \

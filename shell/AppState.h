@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <filesystem>
+
 namespace shell {
 
 // What the windows of one run share: the preferences in force and the program's own files.

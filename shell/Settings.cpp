@@ -1,7 +1,9 @@
 #include "shell/Settings.h"
 
-#include <QFile>
-#include <QSettings>
+#include "icon/FileBytes.h"
+#include "shell/SettingsStore.h"
+
+#include <QStandardPaths>
 
 #include <memory>
 
@@ -9,49 +11,44 @@ namespace shell {
 
 namespace {
 
-std::unique_ptr<QSettings> openStore() {
-    auto store = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                             QString::fromUtf8(kApplicationName));
-    // Without this, keys missing here would be looked up in system-wide files as well.
-    store->setFallbacksEnabled(false);
-    return store;
+QString storeFileName() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QLatin1Char('/') + QString::fromUtf8(kApplicationName) + QStringLiteral(".ini");
 }
 
-QString path(const SettingKey& key) {
-    return key.sectionName() + QLatin1Char('/') + key.keyName();
+// One store for the whole run, made again when the configuration folder changes (tests).
+SettingsStore& store() {
+    static std::unique_ptr<SettingsStore> held;
+    const std::filesystem::path file = icon::pathFromText(storeFileName());
+    if (!held || held->file() != file)
+        held = std::make_unique<SettingsStore>(file);
+    return *held;
 }
 
 } // namespace
 
 QString Settings::read(const SettingKey& key, const QString& fallback) const {
-    const auto store = openStore();
-    const QVariant value = store->value(path(key));
-    return value.isValid() ? value.toString() : fallback;
+    return store().value(key.sectionName(), key.keyName()).value_or(fallback);
 }
 
-void Settings::save(const SettingKey& key, const QString& value) {
-    const auto store = openStore();
-    store->setValue(path(key), value);
-    store->sync();
+bool Settings::save(const SettingKey& key, const QString& value) {
+    return store().setValue(key.sectionName(), key.keyName(), value);
 }
 
 void Settings::deleteAll() {
-    QString file;
-    {
-        const auto store = openStore();
-        file = store->fileName();
-        store->clear();
-        store->sync();
-    }
-    QFile::remove(file);
+    store().removeAll();
+}
+
+std::optional<QString> Settings::takeNotice() {
+    return store().takeNotice();
 }
 
 bool Settings::readFlag(const SettingKey& key, const QString& fallback) const {
     return isYes(read(key, fallback));
 }
 
-void Settings::saveFlag(const SettingKey& key, bool on) {
-    save(key, flagText(on));
+bool Settings::saveFlag(const SettingKey& key, bool on) {
+    return save(key, flagText(on));
 }
 
 icon::Colour Settings::readColour(const SettingKey& key, icon::Colour fallback) const {
@@ -59,12 +56,12 @@ icon::Colour Settings::readColour(const SettingKey& key, icon::Colour fallback) 
                        fallback);
 }
 
-void Settings::saveColour(const SettingKey& key, icon::Colour colour) {
-    save(key, colourText(colour));
+bool Settings::saveColour(const SettingKey& key, icon::Colour colour) {
+    return save(key, colourText(colour));
 }
 
 QString Settings::fileName() const {
-    return openStore()->fileName();
+    return storeFileName();
 }
 
 QString Settings::flagText(bool on) {

@@ -1,7 +1,8 @@
 #include "shell/Tips.h"
 
-#include <QFile>
-#include <QTextStream>
+#include "icon/FileBytes.h"
+
+#include <QStringList>
 
 #include <algorithm>
 
@@ -10,13 +11,19 @@ namespace shell {
 bool Tips::load(const QString& path) {
     m_tips.clear();
     m_index = 0;
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (path.isEmpty())
         return false;
-    QTextStream in(&file);
-    in.setEncoding(QStringConverter::Utf8);
-    while (!in.atEnd())
-        m_tips << in.readLine();
+    // A tips file is a few KiB; a file put in its place is not read whole, nor waited on.
+    const auto bytes = icon::readFileBytes(path, 1u << 20);
+    if (!bytes)
+        return false;
+    QString text = QString::fromUtf8(reinterpret_cast<const char*>(bytes->data()),
+                                     static_cast<qsizetype>(bytes->size()));
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    if (!text.isEmpty() || !bytes->empty())
+        m_tips = text.split(QLatin1Char('\n'));
     return true;
 }
 

@@ -13,6 +13,8 @@
 #include "shell/AppState.h"
 #include "shell/DataFiles.h"
 
+#include "icon/FileBytes.h"
+
 #include <QComboBox>
 #include <QDir>
 #include <QEvent>
@@ -136,9 +138,18 @@ void FenPrin::changeEvent(QEvent* event) {
 }
 
 void FenPrin::openFolder(const QString& folder, MissingFolder report) {
-    const QString clean = QDir::cleanPath(QDir(folder).absolutePath());
-    const ScanResult result =
-        QFileInfo(clean).isDir() ? m_grid.openFolder(clean) : ScanResult::FolderMissing;
+    openFolder(icon::pathFromText(QDir::cleanPath(QDir(folder).absolutePath())), report);
+}
+
+void FenPrin::openFolder(const std::filesystem::path& folder, MissingFolder report) {
+    std::error_code error;
+    std::filesystem::path real = std::filesystem::absolute(folder, error).lexically_normal();
+    if (real.native().size() > 1 && real.native().back() == '/')
+        real = real.parent_path();
+    const QString clean = icon::textFromPath(real);
+    const ScanResult result = std::filesystem::is_directory(real, error)
+                                  ? m_grid.openFolder(real)
+                                  : ScanResult::FolderMissing;
     if (result == ScanResult::FolderMissing) {
         if (report == MissingFolder::Report)
             showFolderMissing();
@@ -147,7 +158,7 @@ void FenPrin::openFolder(const QString& folder, MissingFolder report) {
         return;
     }
     m_folder = clean;
-    fillFolderList(clean);
+    fillFolderList(real);
     const int drive = m_drives->findData(volumeOf(clean, m_volumes));
     if (drive >= 0)
         m_drives->setCurrentIndex(drive);
@@ -163,7 +174,7 @@ void FenPrin::showFolderMissing() {
     platform::dialogs().message(message);
 }
 
-void FenPrin::fillFolderList(const QString& folder) {
+void FenPrin::fillFolderList(const std::filesystem::path& folder) {
     m_folders->clear();
     const auto items = folderItems(folder);
     for (const FolderItem& entry : items) {
@@ -171,7 +182,7 @@ void FenPrin::fillFolderList(const QString& folder) {
             style()->standardIcon(entry.open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon),
             entry.name, m_folders);
         item->setData(kDepthRole, entry.depth);
-        item->setData(kPathRole, entry.path);
+        item->setData(kPathRole, QByteArray::fromStdString(entry.file.native()));
     }
     m_folders->setCurrentRow(currentItem(items));
     m_folders->scrollToItem(m_folders->currentItem());
@@ -181,9 +192,11 @@ void FenPrin::folderItemClicked(QListWidgetItem* item) {
     hidePopUp();
     if (item == nullptr)
         return;
-    const QString folder = item->data(kPathRole).toString();
+    const std::filesystem::path folder(item->data(kPathRole).toByteArray().toStdString());
     // The open folder's own name refreshes it where it stands.
-    if (QDir::cleanPath(QDir(folder).absolutePath()) == m_folder && QFileInfo(folder).isDir())
+    std::error_code error;
+    const std::filesystem::path shown = m_grid.folderPath().lexically_normal();
+    if (std::filesystem::equivalent(folder, shown, error))
         reactualiser();
     else
         openFolder(folder);

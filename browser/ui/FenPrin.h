@@ -44,6 +44,9 @@ public:
     // Opens a folder as a click in the folder list does (the start-up folder, tests). A folder
     // that cannot be read is reported, or passed over in silence as a drive that cannot be read.
     void openFolder(const QString& folder, MissingFolder report = MissingFolder::Report);
+    // The same for a folder named by the file system's bytes (its name need not be valid text).
+    void openFolder(const std::filesystem::path& folder,
+                    MissingFolder report = MissingFolder::Report);
     // The scan of the folder shown, keeping the index (after a copy, rename or delete).
     void reactualiser();
     // Applies the interface colours to every control of the window.
@@ -53,7 +56,7 @@ public:
     QString countText() const;
     QString pathText() const;
     // The icon editor, brought up by the centre picture's right button once it exists.
-    void setEditorLauncher(std::function<void(const QString& icon)> launcher) {
+    void setEditorLauncher(std::function<void(const std::filesystem::path& icon)> launcher) {
         m_showEditor = std::move(launcher);
     }
     // Marks a command as working: it is enabled with the other file commands.
@@ -84,7 +87,7 @@ private:
     void clearGrid();
     void enableCommands(bool on);
     void moveIndex(const std::function<void()>& step);
-    void fillFolderList(const QString& folder);
+    void fillFolderList(const std::filesystem::path& folder);
     void folderItemClicked(QListWidgetItem* item);
     void driveChosen(int index);
     void switchView();
@@ -124,7 +127,7 @@ private:
     platform::GradientPanel* m_count = nullptr;
     PopUpInfos* m_popUp = nullptr;
     QSet<QString> m_ready;
-    std::function<void(const QString& icon)> m_showEditor;
+    std::function<void(const std::filesystem::path& icon)> m_showEditor;
     // Where the copy dialog opens: the folder of the last copy, for the whole run.
     QString m_copyFolder;
     PickerState m_picker;

@@ -9,6 +9,7 @@
 #include "browser/ui/CentrePicture.h"
 #include "browser/ui/FenRen.h"
 #include "browser/ui/IconGridView.h"
+#include "icon/FileBytes.h"
 #include "platform/ClipboardViewer.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpViewer.h"
@@ -58,17 +59,17 @@ void FenPrin::copyCentred() {
     const IconEntry* centred = m_grid.centred();
     if (centred == nullptr)
         return;
-    const QString source = centred->file;
+    const std::filesystem::path source = centred->file;
     for (;;) {
         platform::FileRequest request;
         request.title = text(kCopyTitle);
         request.folder = m_copyFolder;
-        request.fileName = proposedName(source);
+        request.fileName = proposedName(icon::textFromPath(source));
         request.filter = text(kIconsFilter);
         const auto chosen = platform::dialogs().saveFile(request);
         if (!chosen)
             return;
-        const FileResult result = copyFile(bytesOf(source), bytesOf(chosen->path));
+        const FileResult result = copyFile(source, bytesOf(chosen->path));
         if (result.ok()) {
             m_copyFolder = folderBeforeName(chosen->path);
             reactualiser();
@@ -108,7 +109,7 @@ void FenPrin::renameCentred() {
     const IconEntry* centred = m_grid.centred();
     if (centred == nullptr)
         return;
-    FenRen window(renameParts(bytesOf(centred->file)), this);
+    FenRen window(renameParts(centred->file), this);
     platform::dialogs().runModal(window);
     reactualiser();
 }
@@ -119,11 +120,11 @@ void FenPrin::trashCentred() {
     if (centred == nullptr)
         return;
     // The desktop's trash keeps the file for the user to take back: nothing is asked here.
-    const TrashResult result = moveToTrash(bytesOf(centred->file));
+    const TrashResult result = moveToTrash(centred->file);
     if (result.kind != TrashResult::Kind::Trashed) {
         platform::Message message;
         message.title = text(kErrorTitle);
-        message.text = trashFailureText(QFileInfo(centred->file).fileName(), result);
+        message.text = trashFailureText(icon::textFromPath(centred->file.filename()), result);
         message.icon = platform::MessageIcon::Exclamation;
         platform::dialogs().message(message);
     }

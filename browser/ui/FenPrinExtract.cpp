@@ -10,6 +10,7 @@
 #include "browser/ui/PopUpInfos.h"
 #include "browser/ui/VisuBMP.h"
 #include "icon/BmpWriter.h"
+#include "icon/FileBytes.h"
 #include "platform/GradientButton.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
@@ -79,7 +80,7 @@ void FenPrin::iconToBmp() {
     IconGridView* view = m_grid.view() == GridView::Icons48 ? m_fond48 : m_fond;
     const icon::Frame picture = BmpExport::picture(centred ? m_grid.cell(geometry.centre) : nullptr,
                                                    geometry.cellSize, view->centre().background());
-    m_bmpName = proposedBmpName(centred ? centred->file : QString());
+    m_bmpName = proposedBmpName(centred ? icon::textFromPath(centred->file) : QString());
     saveBmp(m_bmpName, picture);
 }
 

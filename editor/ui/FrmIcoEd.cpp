@@ -214,7 +214,7 @@ void FrmIcoEd::bringUp(const QString& currentFolder) {
     setFocus();
 }
 
-void FrmIcoEd::handOver(const QString& path) {
+void FrmIcoEd::handOver(const std::filesystem::path& path) {
     m_document->handOver(path, OpenRequest::Browser);
 }
 

@@ -52,7 +52,7 @@ public:
     // the Open dialog then starts on `currentFolder`.
     void bringUp(const QString& currentFolder);
     // The browser's centre icon: the Fichier pad opens it without a dialog.
-    void handOver(const QString& path);
+    void handOver(const std::filesystem::path& path);
     // The program's command line: "/open <path>" opens that icon at once.
     void readCommandLine(const QString& commandLine);
     // Gives a command that needs another window (a dialog, the clipboard viewer, a capture)

@@ -1,6 +1,7 @@
 #include "editor/Document.h"
 #include "icon/FileBytes.h"
 #include "icon/IcoWriter.h"
+#include "tests/support/FailingWrites.h"
 #include "tests/support/TestData.h"
 
 #include <QDir>
@@ -225,6 +226,55 @@ TEST_F(DocumentTest, AProperCasedPathOpensTheFileThatDiffersOnlyInCase) {
     EXPECT_EQ(m_doc.iconPath(), real);
     EXPECT_EQ(m_doc.caption(), QStringLiteral("Orvanne® - Test.Ico"));
     EXPECT_FALSE(m_doc.hasOpenRequest());
+}
+
+} // namespace
+
+namespace {
+
+using DocumentSaveFailure = DocumentTest;
+
+// A disk that fills up during "Enregistrer" or "Enregistrer sous...": the file on disk, the
+// document's path, caption and Modified state all stay as they were.
+TEST_F(DocumentSaveFailure, AFullDiskSavesNothingAndTheDocumentStaysModified) {
+    const QString path = m_dir.filePath(QStringLiteral("icone.ico"));
+    ASSERT_TRUE(icon::writeIconFile(path, icon::IconPlanes::blank()).ok());
+    ASSERT_TRUE(openHanded(path));
+    const std::vector<std::uint8_t> before = icon::readFileBytes(path).value();
+    const QString caption = m_doc.caption();
+    draw();
+    {
+        testsupport::FailingWrites full(1000);
+        EXPECT_FALSE(m_doc.save());
+        m_host.paths = {m_dir.filePath(QStringLiteral("autre.ico"))};
+        EXPECT_FALSE(m_doc.saveAs());
+    }
+    EXPECT_EQ(icon::readFileBytes(path).value(), before);
+    EXPECT_FALSE(QFile::exists(m_dir.filePath(QStringLiteral("autre.ico"))));
+    EXPECT_EQ(m_doc.iconPath(), path);
+    EXPECT_EQ(m_doc.caption(), caption);
+    EXPECT_TRUE(m_engine.isModified());
+    EXPECT_FALSE(m_doc.savedOk());
+    EXPECT_EQ(m_host.last, path) << "the last icon stays the one opened";
+}
+
+// A file handed over by the browser under a name that is not valid text is opened and saved
+// under that same name, not under the text shown for it.
+TEST_F(DocumentSaveFailure, AFileNamedByBytesIsSavedUnderItsOwnName) {
+    const std::filesystem::path file =
+        icon::pathFromText(m_dir.path()) / std::string("bad\xff\xfe.ico");
+    ASSERT_TRUE(icon::writeIconFile(file, icon::IconPlanes::blank()).ok());
+    m_doc.handOver(file, editor::OpenRequest::Browser);
+    ASSERT_TRUE(m_doc.OpenIcon());
+    draw();
+    ASSERT_TRUE(m_doc.save());
+    EXPECT_EQ(m_doc.iconFile(), file);
+    EXPECT_NE(icon::readFileBytes(file).value(),
+              std::vector<std::uint8_t>(icon::encodeIconFile(icon::IconPlanes::blank()).begin(),
+                                        icon::encodeIconFile(icon::IconPlanes::blank()).end()));
+    const auto names = std::filesystem::directory_iterator(icon::pathFromText(m_dir.path()));
+    EXPECT_EQ(std::distance(begin(names), end(names)), 1);
+    std::filesystem::remove(file);
 }
 
 } // namespace

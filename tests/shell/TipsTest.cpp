@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace {
 
 QString writeTips(const QTemporaryDir& dir, const QByteArray& content) {
@@ -56,9 +58,11 @@ TEST(Tips, AMissingOrEmptyFileGivesNoTipAndNothingFails) {
         EXPECT_EQ(tips.index(), 0);
         EXPECT_EQ(tips.current(), QString());
     }
-    EXPECT_EQ(shell::Tips::missingFileText(),
-              QStringLiteral("Le fichier Conseils.txt n'a pas été trouvé.\r\n\r\nVous n'auriez pas "
-                             "dû le supprimer du dossier de Orvanne®"));
+    // A FIFO in its place is not waited on.
+    const QString fifo = dir.filePath(QStringLiteral("fifo.txt"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    shell::Tips tips;
+    EXPECT_FALSE(tips.load(fifo));
 }
 
 TEST(Tips, TheProgramsOwnTipsAreThereAndPlenty) {

@@ -1,3 +1,4 @@
+#include "icon/FileBytes.h"
 #include "tests/browser/ui/FenPrinFixture.h"
 
 #include "browser/NameRules.h"
@@ -76,7 +77,7 @@ TEST_F(FenPrinExtract, OkTakesTheSelectedIconOntoPicIconAndTheClipboard) {
 
 TEST_F(FenPrinExtract, IcoToBmpWritesTheCentredIconAtTheViewSize) {
     m_window->openFolder(realIconFolder());
-    const QString centred = m_window->grid().centred()->file;
+    const QString centred = icon::textFromPath(m_window->grid().centred()->file);
     m_dialogs.cancel();
     click("CmdIcoBmp");
     EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::SaveFile);

@@ -1,3 +1,4 @@
+#include "icon/FileBytes.h"
 #include "tests/browser/ui/FenPrinFixture.h"
 
 #include "browser/ui/CentrePicture.h"
@@ -184,8 +185,8 @@ TEST_F(FenPrinFixture, TheCentrePictureHandsTheRealPathToTheEditor) {
                   QDir(folder).filePath(QStringLiteral("Grand.ICO")));
     m_window->openFolder(folder);
     int shown = 0;
-    QString handed;
-    m_window->setEditorLauncher([&](const QString& icon) {
+    std::filesystem::path handed;
+    m_window->setEditorLauncher([&](const std::filesystem::path& icon) {
         ++shown;
         handed = icon;
     });
@@ -193,7 +194,7 @@ TEST_F(FenPrinFixture, TheCentrePictureHandsTheRealPathToTheEditor) {
     QTest::mousePress(centre, Qt::RightButton);
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(m_sound.clicks, 1);
-    EXPECT_EQ(handed, QDir(folder).filePath(QStringLiteral("Grand.ICO")));
+    EXPECT_EQ(handed, icon::pathFromText(QDir(folder).filePath(QStringLiteral("Grand.ICO"))));
     EXPECT_EQ(m_window->pathText(), QDir(folder).filePath(QStringLiteral("grand.ico")).toLower());
 }
 

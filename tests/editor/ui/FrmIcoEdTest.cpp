@@ -292,7 +292,7 @@ TEST_F(FrmIcoEdTest, ClosingAsksFirstAndCancelKeepsTheWindowOpen) {
 
 TEST_F(FrmIcoEdTest, ACentreIconHandedOverOpensFromTheFichierPadAndWarnsAtItsSave) {
     const QString world = copyOf(QStringLiteral("qt_WORLD.ico"));
-    m_window->handOver(world);
+    m_window->handOver(icon::pathFromText(world));
     QTest::mousePress(button("CmdFichier"), Qt::RightButton);
     QTest::mouseRelease(button("CmdFichier"), Qt::RightButton);
     EXPECT_TRUE(m_dialogs.asked().empty());
