@@ -1,5 +1,7 @@
 #include "platform/WindowStyle.h"
 
+#include "platform/TitleButton.h"
+
 #include <QPalette>
 #include <QWidget>
 
@@ -7,6 +9,17 @@ namespace platform {
 
 void makeFrameless(QWidget& window) {
     window.setWindowFlag(Qt::FramelessWindowHint, true);
+}
+
+TitleButton* setUpWindow(QWidget& window, const char* name, const QString& title, QSize size,
+                         int reserved) {
+    window.setObjectName(QString::fromLatin1(name));
+    window.setWindowTitle(title);
+    makeFrameless(window);
+    window.setFixedSize(size);
+    auto* button = new TitleButton(title, &window);
+    button->setGeometry(4, 4, size.width() - 8 - reserved, 22);
+    return button;
 }
 
 void setBackground(QWidget& widget, icon::Colour colour) {

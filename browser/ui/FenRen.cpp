@@ -39,13 +39,7 @@ QLabel* label(QWidget* parent, const char* name, const QString& text, const QRec
 FenRen::FenRen(const RenameParts& parts, QWidget* parent)
     : QDialog(parent)
     , m_parts(parts) {
-    setObjectName(QStringLiteral("FenRen"));
-    setWindowTitle(QStringLiteral("Renommer l'icône"));
-    platform::makeFrameless(*this);
-    setFixedSize(420, 168);
-
-    auto* title = new platform::TitleButton(QStringLiteral("Renommer l'icône"), this);
-    title->setGeometry(4, 4, 412, 22);
+    platform::setUpWindow(*this, "FenRen", QStringLiteral("Renommer l'icône"), QSize(420, 168));
 
     // The frames behind the two names and the two buttons, and the one around them all.
     frame(this, 1, QRect(4, 30, 412, 134));

@@ -41,13 +41,9 @@ FrmIcons::FrmIcons(PickerState& state, const shell::ColourScheme& colours,
                    const std::vector<std::filesystem::path>& windowsFolders, QWidget* parent)
     : QDialog(parent)
     , m_state(state) {
-    setObjectName(QStringLiteral("FrmIcons"));
-    platform::makeFrameless(*this);
     const int width = kFrameLeft + kFrameWidth + kBarWidth + 8;
-    setFixedSize(width, kFrameTop + PickerLayout::kFrameHeight + 66);
-
-    m_title = new platform::TitleButton(QStringLiteral("Orvanne®"), this);
-    m_title->setGeometry(4, 4, width - 8, 22);
+    m_title = platform::setUpWindow(*this, "FrmIcons", QStringLiteral("Orvanne®"),
+                                    QSize(width, kFrameTop + PickerLayout::kFrameHeight + 66));
 
     m_frame = new QWidget(this);
     m_frame->setObjectName(QStringLiteral("PicFrame"));

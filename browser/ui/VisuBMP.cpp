@@ -77,13 +77,8 @@ std::optional<QImage> readBitmap(const QByteArray& path) {
 
 VisuBMP::VisuBMP(const QString& folder, const shell::ColourScheme& colours, QWidget* parent)
     : QDialog(parent) {
-    setObjectName(QStringLiteral("VisuBMP"));
-    setWindowTitle(QStringLiteral("Visualisation des fichiers BMP"));
-    platform::makeFrameless(*this);
-    setFixedSize(420, 236);
-
-    auto* title = new platform::TitleButton(windowTitle(), this);
-    title->setGeometry(4, 4, width() - 32, 22);
+    platform::setUpWindow(*this, "VisuBMP", QStringLiteral("Visualisation des fichiers BMP"),
+                          QSize(420, 236), 24);
     auto* close = platform::makeButton(this, "CmdFermer", QStringLiteral("X"),
                                        QStringLiteral("Fermer"), QRect(width() - 26, 4, 22, 22));
     connect(close, &QAbstractButton::clicked, this, &QDialog::accept);

@@ -42,13 +42,7 @@ FrmSnapShoot::FrmSnapShoot(platform::DesktopGrabber& grabber, const shell::Colou
     : QWidget(parent)
     , m_grabber(grabber)
     , m_colours(colours) {
-    setObjectName(QStringLiteral("FrmSnapShoot"));
-    setWindowTitle(text(kSnapShootTitle));
-    platform::makeFrameless(*this);
-    setFixedSize(kWidth, kHeight);
-
-    auto* title = new platform::TitleButton(windowTitle(), this);
-    title->setGeometry(4, 4, kWidth - 8, 22);
+    platform::setUpWindow(*this, "FrmSnapShoot", text(kSnapShootTitle), QSize(kWidth, kHeight));
 
     auto* start = addButton("CmdStart", QStringLiteral("Capturer"), kHelpStart, 0);
     m_copy = addButton("CmdCopy", QStringLiteral("Copier"), kHelpCopy, 1);

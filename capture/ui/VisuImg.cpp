@@ -26,13 +26,8 @@ constexpr int kHeight = 480;
 VisuImg::VisuImg(const shell::ColourScheme& colours, QWidget* parent)
     : QWidget(parent)
     , m_folder(QDir::homePath()) {
-    setObjectName(QStringLiteral("VisuImg"));
-    setWindowTitle(QString::fromUtf8(kViewerTitle));
-    platform::makeFrameless(*this);
-    setFixedSize(kWidth, kHeight);
-
-    auto* title = new platform::TitleButton(windowTitle(), this);
-    title->setGeometry(4, 4, kWidth - 8, 22);
+    platform::setUpWindow(*this, "VisuImg", QString::fromUtf8(kViewerTitle),
+                          QSize(kWidth, kHeight));
 
     m_picture = new ScrolledPicture(QStringLiteral("FraImg"), QStringLiteral("PicImg"), this);
     m_picture->setGeometry(8, 32, kWidth - 16, kHeight - 76);

@@ -17,13 +17,8 @@ namespace editor::ui {
 
 FrmClipData::FrmClipData(QSize picture, QWidget* parent)
     : QDialog(parent) {
-    setObjectName(QStringLiteral("FrmClipData"));
-    setWindowTitle(QStringLiteral("Orvanne®"));
-    platform::makeFrameless(*this);
-    setFixedSize(330, 178);
-
-    auto* title = new platform::TitleButton(QStringLiteral("Orvanne® - Coller"), this);
-    title->setGeometry(4, 4, 322, 22);
+    platform::setUpWindow(*this, "FrmClipData", QStringLiteral("Orvanne® - Coller"),
+                          QSize(330, 178));
 
     auto* frame = new platform::GradientPanel(this);
     frame->setObjectName(QStringLiteral("Forme1"));

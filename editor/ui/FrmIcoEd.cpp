@@ -54,9 +54,8 @@ FrmIcoEd::FrmIcoEd(LoadNotice notice, QWidget* parent)
     : QWidget(parent)
     , m_document(std::make_unique<Document>(m_engine, m_host))
     , m_notice(std::move(notice)) {
-    setObjectName(QStringLiteral("FrmIcoEd"));
-    platform::makeFrameless(*this);
-    setFixedSize(kWidth, kHeight);
+    m_title = platform::setUpWindow(*this, "FrmIcoEd", QStringLiteral("Orvanne®"),
+                                    QSize(kWidth, kHeight), 48);
     setFocusPolicy(Qt::StrongFocus);
 
     buildTitleRow();
@@ -106,8 +105,6 @@ void FrmIcoEd::applyColours() {
 }
 
 void FrmIcoEd::buildTitleRow() {
-    m_title = new platform::TitleButton(QStringLiteral("Orvanne®"), this);
-    m_title->setGeometry(4, 4, kWidth - 56, 22);
     auto* minimise = addButton(this, "CmdReduire", QStringLiteral("_"), QStringLiteral("Réduire"),
                                QRect(kWidth - 50, 4, 22, 22));
     connect(minimise, &QAbstractButton::clicked, this, [this] {

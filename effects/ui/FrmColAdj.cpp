@@ -50,13 +50,8 @@ QString FrmColAdj::run(editor::IconEditor& engine, platform::Dialogs& dialogs, Q
 FrmColAdj::FrmColAdj(ColourAdjuster adjuster, QWidget* parent)
     : QDialog(parent)
     , m_adjuster(std::move(adjuster)) {
-    setObjectName(QStringLiteral("FrmColAdj"));
-    setWindowTitle(QStringLiteral("Ajuster les couleurs"));
-    platform::makeFrameless(*this);
-    setFixedSize(kColumnLeft + 4 * kColumnWidth + 8, 158);
-
-    auto* title = new platform::TitleButton(windowTitle(), this);
-    title->setGeometry(4, 4, width() - 8, 22);
+    platform::setUpWindow(*this, "FrmColAdj", QStringLiteral("Ajuster les couleurs"),
+                          QSize(kColumnLeft + 4 * kColumnWidth + 8, 158));
 
     m_preview = new PreviewPicture(QStringLiteral("PicShade"), this);
     m_preview->move(16, 54);

@@ -32,13 +32,8 @@ FrmRndIcon::FrmRndIcon(platform::Dialogs& dialogs, UniformGenerator& random, QWi
     , m_dialogs(dialogs)
     , m_random(random)
     , m_preview(shell::appState().preferences.colours[shell::SchemeColour::Viewing]) {
-    setObjectName(QStringLiteral("FrmRndIcon"));
-    setWindowTitle(QStringLiteral("Fond 'kaléidoscope'"));
-    platform::makeFrameless(*this);
-    setFixedSize(250, 136);
-
-    auto* title = new platform::TitleButton(windowTitle(), this);
-    title->setGeometry(4, 4, width() - 8, 22);
+    platform::setUpWindow(*this, "FrmRndIcon", QStringLiteral("Fond 'kaléidoscope'"),
+                          QSize(250, 136));
 
     m_picture = new PreviewPicture(QStringLiteral("PicRnd"), this);
     m_picture->move(20, 44);

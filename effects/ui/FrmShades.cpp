@@ -42,13 +42,8 @@ QString FrmShades::run(editor::IconEditor& engine, platform::Dialogs& dialogs, Q
 
 FrmShades::FrmShades(QWidget* parent)
     : QDialog(parent) {
-    setObjectName(QStringLiteral("FrmShades"));
-    setWindowTitle(QStringLiteral("Fond en dégradé"));
-    platform::makeFrameless(*this);
-    setFixedSize(280, kLowerTop + 84);
-
-    auto* title = new platform::TitleButton(windowTitle(), this);
-    title->setGeometry(4, 4, width() - 8, 22);
+    platform::setUpWindow(*this, "FrmShades", QStringLiteral("Fond en dégradé"),
+                          QSize(280, kLowerTop + 84));
 
     for (const auto& [swatch, caption] : {std::pair{kStartSwatch, "Début"}, {kEndSwatch, "Fin"}}) {
         auto* heading = new QLabel(QString::fromUtf8(caption), this);

@@ -25,13 +25,8 @@ constexpr int kSweepSteps = 120; // one sweep of the light band, in timer ticks
 
 Apropos::Apropos(QWidget* parent)
     : QDialog(parent) {
-    setObjectName(QStringLiteral("Apropos"));
-    setWindowTitle(QStringLiteral("À propos de Orvanne®"));
-    platform::makeFrameless(*this);
-    setFixedSize(380, 330);
-
-    auto* title = new platform::TitleButton(QStringLiteral("À propos de Orvanne®"), this);
-    title->setGeometry(4, 4, 372, 22);
+    platform::setUpWindow(*this, "Apropos", QStringLiteral("À propos de Orvanne®"),
+                          QSize(380, 330));
 
     m_picture = new QWidget(this);
     m_picture->setObjectName(QStringLiteral("Image1"));

@@ -23,13 +23,8 @@ constexpr int kTargetDepth = 32;
 
 Avertis::Avertis(QWidget* parent)
     : QDialog(parent) {
-    setObjectName(QStringLiteral("Avertis"));
-    setWindowTitle(QStringLiteral("Orvanne® - Avertissement"));
-    platform::makeFrameless(*this);
-    setFixedSize(400, 200);
-
-    auto* title = new platform::TitleButton(QStringLiteral("Orvanne® - Avertissement"), this);
-    title->setGeometry(4, 4, 392, 22);
+    platform::setUpWindow(*this, "Avertis", QStringLiteral("Orvanne® - Avertissement"),
+                          QSize(400, 200));
 
     auto* frame = new platform::GradientPanel(this);
     frame->setObjectName(QStringLiteral("Forme1"));

@@ -24,13 +24,7 @@ namespace shell::ui {
 Conseils::Conseils(QWidget* parent, std::function<double()> random, const QString& tipsFile)
     : QDialog(parent)
     , m_random(std::move(random)) {
-    setObjectName(QStringLiteral("Conseils"));
-    setWindowTitle(QStringLiteral("Conseil du jour"));
-    platform::makeFrameless(*this);
-    setFixedSize(430, 236);
-
-    auto* title = new platform::TitleButton(QStringLiteral("Conseil du jour"), this);
-    title->setGeometry(4, 4, 422, 22);
+    platform::setUpWindow(*this, "Conseils", QStringLiteral("Conseil du jour"), QSize(430, 236));
 
     auto* frame = new platform::GradientPanel(this);
     frame->setObjectName(QStringLiteral("Forme1"));

@@ -15,13 +15,7 @@ namespace shell::ui {
 
 Demarre2::Demarre2(QWidget* parent)
     : QWidget(parent) {
-    setObjectName(QStringLiteral("Demarre2"));
-    setWindowTitle(QStringLiteral("Démarrage"));
-    platform::makeFrameless(*this);
-    setFixedSize(340, 150);
-
-    auto* title = new platform::TitleButton(QStringLiteral("Démarrage"), this);
-    title->setGeometry(4, 4, 332, 22);
+    platform::setUpWindow(*this, "Demarre2", QStringLiteral("Démarrage"), QSize(340, 150));
 
     auto* name = new QLabel(QStringLiteral("Orvanne®"), this);
     name->setObjectName(QStringLiteral("LblNom"));
