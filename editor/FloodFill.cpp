@@ -1,17 +1,20 @@
 #include "editor/FloodFill.h"
 
+#include "icon/Frame.h"
+
 #include <array>
 
 namespace editor {
 
 using icon::Colour;
+using icon::Frame;
 using icon::kIconSize;
 using icon::Plane;
 
 namespace {
 
 // Fills the connected area of the seed's colour with `fill`, as a surface fill does.
-void surfaceFill(Plane& surface, int cx, int cy, Colour fill) {
+void surfaceFill(Frame& surface, int cx, int cy, Colour fill) {
     const Colour seed = surface.at(cx, cy);
     if (seed == fill)
         return;
@@ -25,20 +28,11 @@ void surfaceFill(Plane& surface, int cx, int cy, Colour fill) {
         const int x = p % kIconSize, y = p / kIconSize;
         const int next[4][2] = {{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}};
         for (const auto& n : next)
-            if (Plane::contains(n[0], n[1]) && surface.at(n[0], n[1]) == seed) {
+            if (surface.contains(n[0], n[1]) && surface.at(n[0], n[1]) == seed) {
                 surface.set(n[0], n[1], fill);
                 stack[top++] = n[1] * kIconSize + n[0];
             }
     }
-}
-
-Plane composite(const icon::IconPlanes& planes, Colour background) {
-    Plane out;
-    for (int y = 0; y < kIconSize; ++y)
-        for (int x = 0; x < kIconSize; ++x)
-            out.set(x, y,
-                    icon::composePixel(background, planes.mask.at(x, y), planes.image.at(x, y)));
-    return out;
 }
 
 } // namespace
@@ -46,8 +40,8 @@ Plane composite(const icon::IconPlanes& planes, Colour background) {
 void FloodFillAt(icon::IconPlanes& planes, int cx, int cy, Colour fill, Colour previewBackground) {
     if (!Plane::contains(cx, cy))
         return;
-    Plane overGrey = composite(planes, previewBackground);
-    Plane overWhite = composite(planes, icon::kWhite);
+    Frame overGrey = icon::compose(planes, previewBackground, 1);
+    Frame overWhite = icon::compose(planes, icon::kWhite, 1);
     const Colour seedMask = planes.mask.at(cx, cy);
     surfaceFill(overGrey, cx, cy, fill);
     surfaceFill(overWhite, cx, cy, fill);

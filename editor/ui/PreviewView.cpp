@@ -1,7 +1,7 @@
 #include "editor/ui/PreviewView.h"
 
 #include "editor/ui/Edges.h"
-#include "icon/IconBitmap.h"
+#include "icon/Frame.h"
 
 #include <QImage>
 #include <QPainter>
@@ -16,16 +16,8 @@ PreviewView::PreviewView(const IconEditor& engine, QWidget* parent)
 }
 
 void PreviewView::paintEvent(QPaintEvent*) {
-    const icon::Frame shown = icon::composeOver(icon::fromPlanes(m_engine.displayedPlanes()),
-                                                m_engine.previewBackground());
-    QImage picture(icon::kIconSize, icon::kIconSize, QImage::Format_RGB32);
-    for (int y = 0; y < icon::kIconSize; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        for (int x = 0; x < icon::kIconSize; ++x) {
-            const icon::Colour c = shown.at(x, y);
-            line[x] = qRgb(icon::redOf(c), icon::greenOf(c), icon::blueOf(c));
-        }
-    }
+    const QImage picture =
+        icon::compose(m_engine.displayedPlanes(), m_engine.previewBackground(), 1).toImage();
     QPainter painter(this);
     painter.drawImage(1, 1, picture);
     drawEdge(painter, rect(), true);
