@@ -10,28 +10,15 @@ namespace platform {
 namespace {
 
 Answer defaultAnswer(const Message& message) {
-    static const std::vector<Answer> ok{Answer::Ok}, okCancel{Answer::Ok, Answer::Cancel},
-        yesNo{Answer::Yes, Answer::No}, yesNoCancel{Answer::Yes, Answer::No, Answer::Cancel},
-        retryCancel{Answer::Retry, Answer::Cancel};
-    const std::vector<Answer>* set = &ok;
-    switch (message.buttons) {
-    case MessageButtons::Ok:
-        break;
-    case MessageButtons::OkCancel:
-        set = &okCancel;
-        break;
-    case MessageButtons::YesNo:
-        set = &yesNo;
-        break;
-    case MessageButtons::YesNoCancel:
-        set = &yesNoCancel;
-        break;
-    case MessageButtons::RetryCancel:
-        set = &retryCancel;
-        break;
-    }
-    const int index = std::clamp(message.defaultButton, 1, static_cast<int>(set->size()));
-    return (*set)[static_cast<std::size_t>(index - 1)];
+    // The buttons of each set, in the order of MessageButtons, left to right.
+    static const std::vector<Answer> sets[] = {{Answer::Ok},
+                                               {Answer::Ok, Answer::Cancel},
+                                               {Answer::Yes, Answer::No},
+                                               {Answer::Yes, Answer::No, Answer::Cancel},
+                                               {Answer::Retry, Answer::Cancel}};
+    const std::vector<Answer>& set = sets[static_cast<int>(message.buttons)];
+    const int index = std::clamp(message.defaultButton, 1, static_cast<int>(set.size()));
+    return set[static_cast<std::size_t>(index - 1)];
 }
 
 } // namespace
@@ -45,7 +32,8 @@ void ScriptedDialogs::clear() {
     m_asked.clear();
 }
 
-std::optional<ScriptedDialogs::Step> ScriptedDialogs::take() {
+std::optional<ScriptedDialogs::Step> ScriptedDialogs::take(Asked asked) {
+    m_asked.push_back(std::move(asked));
     if (m_script.empty())
         return std::nullopt;
     Step step = std::move(m_script.front());
@@ -54,30 +42,15 @@ std::optional<ScriptedDialogs::Step> ScriptedDialogs::take() {
 }
 
 Answer ScriptedDialogs::message(const Message& message) {
-    Asked asked;
-    asked.kind = Asked::Kind::Message;
-    asked.title = message.title;
-    asked.text = message.text;
-    asked.icon = message.icon;
-    asked.buttons = message.buttons;
-    asked.defaultButton = message.defaultButton;
-    m_asked.push_back(asked);
-    const auto step = take();
-    if (step && std::holds_alternative<Answer>(*step))
-        return std::get<Answer>(*step);
-    return defaultAnswer(message);
+    const Asked asked{Asked::Kind::Message, message.title,   message.text,
+                      message.icon,         message.buttons, message.defaultButton};
+    return answerOf<Answer>(take(asked)).value_or(defaultAnswer(message));
 }
 
 std::optional<FileChoice> ScriptedDialogs::file(Asked::Kind kind, const FileRequest& request) {
-    Asked asked;
-    asked.kind = kind;
-    asked.title = request.title;
+    Asked asked{kind, request.title};
     asked.file = request;
-    m_asked.push_back(asked);
-    const auto step = take();
-    if (step && std::holds_alternative<FileChoice>(*step))
-        return std::get<FileChoice>(*step);
-    return std::nullopt;
+    return answerOf<FileChoice>(take(asked));
 }
 
 std::optional<FileChoice> ScriptedDialogs::openFile(const FileRequest& request) {
@@ -89,39 +62,23 @@ std::optional<FileChoice> ScriptedDialogs::saveFile(const FileRequest& request) 
 }
 
 std::optional<QString> ScriptedDialogs::chooseFolder(const QString& title, const QString& start) {
-    Asked asked;
-    asked.kind = Asked::Kind::Folder;
-    asked.title = title;
-    asked.text = start;
-    m_asked.push_back(asked);
-    const auto step = take();
-    if (step && std::holds_alternative<FolderAnswer>(*step))
-        return std::get<FolderAnswer>(*step).path;
-    return std::nullopt;
+    const auto folder = answerOf<FolderAnswer>(take({Asked::Kind::Folder, title, start}));
+    return folder ? std::optional<QString>(folder->path) : std::nullopt;
 }
 
 std::optional<icon::Colour> ScriptedDialogs::chooseColour(icon::Colour initial) {
-    Asked asked;
-    asked.kind = Asked::Kind::Colour;
+    Asked asked{Asked::Kind::Colour};
     asked.colour = initial;
-    m_asked.push_back(asked);
-    const auto step = take();
-    if (step && std::holds_alternative<icon::Colour>(*step))
-        return std::get<icon::Colour>(*step);
-    return std::nullopt;
+    return answerOf<icon::Colour>(take(asked));
 }
 
 QString ScriptedDialogs::runModal(QDialog& window) {
-    Asked asked;
-    asked.kind = Asked::Kind::Modal;
-    asked.title = window.objectName();
-    m_asked.push_back(asked);
+    const auto script = answerOf<ModalScript>(take({Asked::Kind::Modal, window.objectName()}));
     window.setResult(QDialog::Rejected);
     window.show();
     QCoreApplication::processEvents();
-    const auto step = take();
-    if (step && std::holds_alternative<ModalScript>(*step))
-        std::get<ModalScript> (*step)(window);
+    if (script)
+        (*script)(window);
     if (window.isVisible())
         window.reject();
     QCoreApplication::processEvents();

@@ -61,7 +61,15 @@ private:
     using Step =
         std::variant<Cancelled, Answer, FileChoice, FolderAnswer, icon::Colour, ModalScript>;
 
-    std::optional<Step> take();
+    // Records the question and takes the next answer of the script, if any.
+    std::optional<Step> take(Asked asked);
+    // The answer when it is of the kind asked for; any other is used up all the same.
+    template <typename T>
+    static std::optional<T> answerOf(const std::optional<Step>& step) {
+        if (step && std::holds_alternative<T>(*step))
+            return std::get<T>(*step);
+        return std::nullopt;
+    }
     std::optional<FileChoice> file(Asked::Kind kind, const FileRequest& request);
 
     std::deque<Step> m_script;

@@ -29,6 +29,14 @@ std::vector<std::uint8_t> fileBytes(const QString& path) {
     return {data.begin(), data.end()};
 }
 
+QString copyValidIcon(const QString& name, const QString& folder) {
+    const QString target = QDir(folder).filePath(name);
+    if (!QFile::copy(testData(QStringLiteral("ico/valid/") + name), target))
+        ADD_FAILURE() << "cannot copy " << name.toStdString();
+    QFile(target).setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    return target;
+}
+
 bool writeFile(const QString& path, const QByteArray& content) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||

@@ -17,6 +17,8 @@ QString testData(const QString& relative);
 QStringList testFiles(const QString& relativeFolder);
 // Whole content of a file; fails the current test when it cannot be read.
 std::vector<std::uint8_t> fileBytes(const QString& path);
+// Copies a valid icon of the test data into a folder, writable by its owner; gives its path.
+QString copyValidIcon(const QString& name, const QString& folder);
 // Writes a whole file, replacing it; fails the current test when it cannot be written.
 bool writeFile(const QString& path, const QByteArray& content);
 // The file system's bytes of a path, as the cores take it.
