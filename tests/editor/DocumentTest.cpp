@@ -64,12 +64,6 @@ public:
 
 class DocumentTest : public ::testing::Test {
 protected:
-    QString copyOf(const QString& name) {
-        const QString target = m_dir.filePath(name);
-        QFile::copy(testsupport::testData(QStringLiteral("ico/valid/") + name), target);
-        QFile(target).setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-        return target;
-    }
     void draw() {
         m_engine.selectTool(editor::Tool::Pencil);
         m_engine.press(1, 55, 55);
@@ -125,7 +119,7 @@ TEST_F(DocumentTest, ThePromptAnswersDecideWhetherTheWorkGoesOn) {
 }
 
 TEST_F(DocumentTest, SavingOverAFileOfSeveralImagesWarnsAndCancelAsksForANewName) {
-    const QString world = copyOf(QStringLiteral("qt_WORLD.ico"));
+    const QString world = testsupport::copyValidIcon(QStringLiteral("qt_WORLD.ico"), m_dir.path());
     m_host.paths = {world};
     ASSERT_TRUE(m_doc.OpenIcon());
     EXPECT_EQ(m_host.opened[0].title, QStringLiteral("Orvanne® - Ouvrir"));

@@ -1,13 +1,13 @@
 #include "browser/ui/FrmIcons.h"
 #include "browser/PickerLayout.h"
 #include "browser/ui/IcoWinPanel.h"
-#include "platform/GradientButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
 #include "tests/support/Screenshot.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/SharedIconsPe.h"
 #include "tests/support/TestData.h"
+#include "tests/support/Widgets.h"
 
 #include <QApplication>
 #include <QFile>
@@ -23,6 +23,8 @@
 
 namespace {
 
+using testsupport::child;
+using testsupport::click;
 using testsupport::pathOf;
 
 using browser::PickerState;
@@ -44,19 +46,6 @@ protected:
         window->show();
         return window;
     }
-    static QString info(FrmIcons& window) {
-        return window.findChild<QLabel*>(QStringLiteral("LblInfo"))->text();
-    }
-    static QWidget* grid(FrmIcons& window) {
-        return window.findChild<QWidget*>(QStringLiteral("PicIcons"));
-    }
-    static QScrollBar* bar(FrmIcons& window) {
-        return window.findChild<QScrollBar*>(QStringLiteral("Vsb"));
-    }
-    static platform::GradientButton* button(FrmIcons& window, const QString& name) {
-        return window.findChild<platform::GradientButton*>(name);
-    }
-
     QTemporaryDir m_dir;
     PickerState m_state;
     platform::ScriptedDialogs m_dialogs;
@@ -68,25 +57,25 @@ TEST_F(FrmIconsTest, ShowsAFilesIconsAndSelectsOnRelease) {
     auto window = open(pathOf(firefox));
     EXPECT_EQ(window->findChild<platform::TitleButton*>()->text(),
               browser::picker::windowTitle(QStringLiteral("penet_firefox_x64.exe"), 6));
-    EXPECT_FALSE(bar(*window)->isEnabled());
+    EXPECT_FALSE(child<QScrollBar>(*window, "Vsb")->isEnabled());
     EXPECT_TRUE(window->cells()->isDecoded(6));
 
-    QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(3 * 38 + 10, 10));
-    EXPECT_EQ(info(*window), browser::picker::infoText(4));
+    QTest::mouseRelease(child(*window, "PicIcons"), Qt::LeftButton, {}, QPoint(3 * 38 + 10, 10));
+    EXPECT_EQ(child<QLabel>(*window, "LblInfo")->text(), browser::picker::infoText(4));
     EXPECT_EQ(window->takenIcon(), 4);
-    QTest::mouseRelease(grid(*window), Qt::LeftButton, {}, QPoint(10, 50));
+    QTest::mouseRelease(child(*window, "PicIcons"), Qt::LeftButton, {}, QPoint(10, 50));
     EXPECT_EQ(window->selected(), 4) << "below the last icon nothing is selected";
     testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons"));
 }
 
 TEST_F(FrmIconsTest, SixRowsScrollOverThirtyEightPixels) {
     auto window = open(writeFile("soixante.dll", testsupport::sharedIconsPe(60, 32)));
-    EXPECT_EQ(bar(*window)->maximum(), browser::PickerLayout::scrollRange(60));
+    EXPECT_EQ(child<QScrollBar>(*window, "Vsb")->maximum(), browser::PickerLayout::scrollRange(60));
     QWheelEvent wheel(QPointF(20, 20), QPointF(20, 20), {}, QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(window.get(), &wheel);
-    EXPECT_EQ(bar(*window)->value(), 38) << "the wheel over the grid turns the bar";
-    EXPECT_EQ(grid(*window)->y(), -38);
+    EXPECT_EQ(child<QScrollBar>(*window, "Vsb")->value(), 38) << "the wheel turns the bar";
+    EXPECT_EQ(child(*window, "PicIcons")->y(), -38);
     EXPECT_TRUE(window->cells()->isDecoded(60)) << "the last row came into view";
 }
 
@@ -95,7 +84,8 @@ TEST_F(FrmIconsTest, AHugeFileDecodesOnlyTheRowsInView) {
     EXPECT_EQ(window->count(), 30000);
     EXPECT_TRUE(window->cells()->isDecoded(50));
     EXPECT_FALSE(window->cells()->isDecoded(61));
-    bar(*window)->setValue(bar(*window)->maximum());
+    auto* bar = child<QScrollBar>(*window, "Vsb");
+    bar->setValue(bar->maximum());
     EXPECT_TRUE(window->cells()->isDecoded(30000));
     testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-immense"));
 }
@@ -106,7 +96,7 @@ TEST_F(FrmIconsTest, AFileWithoutIconsIsReportedAndThePreviousOneStays) {
     const QString title = window->windowTitle();
     const fs::path empty = pathOf(testsupport::testData("pe/aclock-x64-win64_no_resources.exe"));
     m_dialogs.chooseFile(QFile::decodeName(QByteArray::fromStdString(empty.native())), 3);
-    QTest::mouseClick(button(*window, QStringLiteral("CmdBrowse")), Qt::LeftButton);
+    click(*window, "CmdBrowse");
 
     ASSERT_EQ(m_dialogs.asked().size(), 2u);
     EXPECT_EQ(pathOf(m_dialogs.asked()[0].file.folder), firefox.parent_path());
@@ -118,7 +108,7 @@ TEST_F(FrmIconsTest, AFileWithoutIconsIsReportedAndThePreviousOneStays) {
 
     const QString ani = testsupport::testData("ani/breeze_wait.ani");
     m_dialogs.chooseFile(ani, 2);
-    QTest::mouseClick(button(*window, QStringLiteral("CmdBrowse")), Qt::LeftButton);
+    click(*window, "CmdBrowse");
     EXPECT_EQ(m_state.file, pathOf(ani));
     testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-ani"));
 }
@@ -132,12 +122,12 @@ TEST_F(FrmIconsTest, ThePanelOpensTheSystemFilesFoundAndDisablesTheOthers) {
         open(pathOf(testsupport::testData("pe/penet_pidgin.exe")), {windows, windows / "system32"});
     auto* panel = window->findChild<browser::ui::IcoWinPanel*>();
     EXPECT_FALSE(panel->isVisible());
-    QTest::mouseClick(button(*window, QStringLiteral("CmdIcoWin")), Qt::LeftButton);
+    click(*window, "CmdIcoWin");
     EXPECT_TRUE(panel->isVisible());
     testsupport::saveScreenshot(*window, QStringLiteral("FrmIcons-IcoWinOpts"));
 
-    EXPECT_FALSE(button(*window, QStringLiteral("IcoWinOpts0"))->isEnabled()); // Explorer.exe
-    auto* shell32 = button(*window, QStringLiteral("IcoWinOpts13"));
+    EXPECT_FALSE(child(*window, "IcoWinOpts0")->isEnabled()); // Explorer.exe
+    auto* shell32 = child(*window, "IcoWinOpts13");
     ASSERT_TRUE(shell32->isEnabled());
     QTest::mouseClick(shell32, Qt::LeftButton);
     EXPECT_FALSE(panel->isVisible());
@@ -146,8 +136,8 @@ TEST_F(FrmIconsTest, ThePanelOpensTheSystemFilesFoundAndDisablesTheOthers) {
     EXPECT_EQ(window->count(), 6);
     EXPECT_TRUE(m_dialogs.asked().empty());
 
-    QTest::mouseClick(button(*window, QStringLiteral("CmdIcoWin")), Qt::LeftButton);
-    QTest::mouseClick(button(*window, QStringLiteral("CmdFerMnu")), Qt::LeftButton);
+    click(*window, "CmdIcoWin");
+    click(*window, "CmdFerMnu");
     EXPECT_FALSE(panel->isVisible());
 }
 

@@ -1,6 +1,7 @@
 #include "browser/ui/VisuBMP.h"
-#include "platform/GradientButton.h"
+#include "browser/BmpViewer.h"
 #include "tests/support/Screenshot.h"
+#include "tests/support/Widgets.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -14,6 +15,8 @@
 namespace {
 
 using browser::ui::VisuBMP;
+using testsupport::child;
+using testsupport::click;
 
 TEST(VisuBMP, ListsBitmapsShowsTheOneClickedAndKeepsItCentred) {
     QTemporaryDir dir;
@@ -28,7 +31,7 @@ TEST(VisuBMP, ListsBitmapsShowsTheOneClickedAndKeepsItCentred) {
 
     VisuBMP viewer(dir.path(), shell::ColourScheme{});
     viewer.show();
-    auto* files = viewer.findChild<QListWidget*>(QStringLiteral("File1"));
+    auto* files = child<QListWidget>(viewer, "File1");
     ASSERT_EQ(files->count(), 2);
     EXPECT_EQ(files->item(0)->text(), QStringLiteral("cassé.bmp"));
 
@@ -38,24 +41,23 @@ TEST(VisuBMP, ListsBitmapsShowsTheOneClickedAndKeepsItCentred) {
     EXPECT_EQ(viewer.picture().pixelColor(0, 0), QColor(Qt::red))
         << "a broken file changes nothing";
 
-    auto* picture = viewer.findChild<QWidget*>(QStringLiteral("Picture1"));
-    QTest::mouseClick(viewer.findChild<platform::GradientButton*>(QStringLiteral("Cmd48")),
-                      Qt::LeftButton);
-    EXPECT_EQ(picture->geometry(), QRect(15, 10, 48, 48));
-    testsupport::saveScreenshot(viewer, QStringLiteral("VisuBMP-48"));
-    QTest::mouseClick(viewer.findChild<platform::GradientButton*>(QStringLiteral("Cmd32")),
-                      Qt::LeftButton);
-    EXPECT_EQ(picture->geometry(), QRect(23, 18, 32, 32));
-    testsupport::saveScreenshot(viewer, QStringLiteral("VisuBMP-32"));
+    // Each size button puts the picture where the viewer's rule places it.
+    auto* picture = child(viewer, "Picture1");
+    for (int side : {48, 32}) {
+        click(viewer, QStringLiteral("Cmd%1").arg(side));
+        const auto place = browser::BmpViewer::place(side);
+        EXPECT_EQ(picture->geometry(), QRect(place.left, place.top, side, side));
+        testsupport::saveScreenshot(viewer, QStringLiteral("VisuBMP-%1").arg(side));
+    }
 
-    auto* folders = viewer.findChild<QListWidget*>(QStringLiteral("Dir1"));
+    auto* folders = child<QListWidget>(viewer, "Dir1");
     const auto below = folders->findItems(QStringLiteral("sous-dossier"), Qt::MatchEndsWith);
     ASSERT_EQ(below.size(), 1);
     emit folders->itemClicked(below.front());
     EXPECT_EQ(viewer.folder(), QDir(dir.path()).filePath(QStringLiteral("sous-dossier")));
     EXPECT_EQ(files->count(), 0);
 
-    auto* drives = viewer.findChild<QComboBox*>(QStringLiteral("Drive1"));
+    auto* drives = child<QComboBox>(viewer, "Drive1");
     ASSERT_GT(drives->count(), 0);
     emit drives->activated(0);
     EXPECT_EQ(viewer.folder(), QStringLiteral("/"));

@@ -1,13 +1,12 @@
 #include "capture/ui/FrmSnap.h"
 #include "capture/ui/FrmSnapShoot.h"
 #include "capture/ui/VisuImg.h"
-#include "platform/GradientButton.h"
-#include "platform/HelpBubbles.h"
 #include "platform/Services.h"
 #include "tests/support/FakeDesktopGrabber.h"
 #include "tests/support/Recorders.h"
 #include "tests/support/Screenshot.h"
 #include "tests/support/ScriptedDialogs.h"
+#include "tests/support/Widgets.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -25,20 +24,14 @@ using capture::ui::FrmSnap;
 using capture::ui::FrmSnapShoot;
 using capture::ui::VisuImg;
 using platform::Asked;
+using testsupport::child;
 
 QSize screenSize() {
     return QGuiApplication::primaryScreen()->virtualGeometry().size();
 }
 
-template <typename T = QWidget>
-T* child(QWidget& window, const QString& name) {
-    T* found = window.findChild<T*>(name);
-    EXPECT_NE(found, nullptr) << name.toStdString();
-    return found;
-}
-
 void click(QWidget& window, const char* name) {
-    QTest::mouseClick(child(window, QString::fromLatin1(name)), Qt::LeftButton);
+    testsupport::click(window, QString::fromLatin1(name));
 }
 
 bool enabled(QWidget& window, const char* name) {
@@ -128,17 +121,18 @@ TEST_F(SnapShootWindow, EscapeOrNoDesktopLeavesTheWindowAsItWas) {
 TEST_F(SnapShootWindow, KeysMoveTheZoneOnTheOverlay) {
     m_dialogs.onModal([](QDialog& overlay) {
         QWidget* pic = overlay.findChild<QWidget*>(QStringLiteral("pic"));
-        QTest::mousePress(pic, Qt::LeftButton, {}, QPoint(100, 100));
-        QTest::mouseRelease(pic, Qt::LeftButton, {}, QPoint(100, 100));
+        QTest::mouseClick(pic, Qt::LeftButton, {}, QPoint(100, 100));
         EXPECT_TRUE(overlay.findChild<QWidget*>(QStringLiteral("Node"))->isVisible());
         QTest::keyClick(&overlay, Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
-        QTest::keyClick(&overlay, Qt::Key_Home);
         QTest::keyClick(&overlay, Qt::Key_Return);
     });
     click(m_window, "CmdStart");
-    const capture::CaptureZone& zone = m_window.zone();
-    EXPECT_EQ(QRect(zone.x1, zone.y1, zone.x2, zone.y2), QRect(92, 82, 126, 116));
-    EXPECT_EQ(m_window.picture().size(), QSize(35, 35));
+    capture::CaptureZone expected;
+    expected.press(100, 100);
+    expected.release(100, 100);
+    expected.moveByKey(capture::ZoneKey::Right, true, true);
+    EXPECT_EQ(m_window.zone().copyRect(), expected.copyRect());
+    EXPECT_EQ(m_window.picture().size(), expected.copyRect().size());
 }
 
 TEST_F(SnapShootWindow, EditorAndClipboardViewerAreReachedThroughTheirCommands) {
