@@ -13,6 +13,7 @@
 #include "tests/support/Screenshot.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestData.h"
+#include "tests/support/Widgets.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -26,19 +27,13 @@
 namespace {
 
 using platform::Asked;
+using testsupport::child;
+using testsupport::click;
 
 class StartupWindows : public ::testing::Test {
 protected:
     void SetUp() override { shell::Settings().deleteAll(); }
     void TearDown() override { shell::Settings().deleteAll(); }
-    template <typename T>
-    T* find(QWidget& window, const char* name) {
-        return window.findChild<T*>(QString::fromLatin1(name));
-    }
-    void click(QWidget& window, const char* name) {
-        QTest::mouseClick(find<QAbstractButton>(window, name), Qt::LeftButton);
-    }
-
     platform::ScriptedDialogs m_dialogs;
     platform::RecordingSound m_sound;
     platform::RecordingLauncher m_launcher;
@@ -46,18 +41,15 @@ protected:
 };
 
 TEST_F(StartupWindows, Demarre2AsksBeforeASecondInstanceWithNoAsTheDefault) {
+    shell::ui::Demarre2 splash;
+    splash.show();
+    testsupport::saveScreenshot(splash, QStringLiteral("Demarre2"));
     for (const auto answer : {platform::Answer::No, platform::Answer::Yes}) {
         m_dialogs.answer(answer);
         EXPECT_EQ(shell::ui::Demarre2::askForSecondInstance(), answer == platform::Answer::Yes);
         EXPECT_EQ(m_dialogs.last().buttons, platform::MessageButtons::YesNo);
         EXPECT_EQ(m_dialogs.last().defaultButton, 2);
     }
-}
-
-TEST_F(StartupWindows, Demarre2Screenshot) {
-    shell::ui::Demarre2 splash;
-    splash.show();
-    testsupport::saveScreenshot(splash, QStringLiteral("Demarre2"));
 }
 
 TEST_F(StartupWindows, NoToTheSecondInstanceEndsTheStart) {
@@ -119,14 +111,14 @@ TEST_F(StartupWindows, ConseilsShowsTheTipChosenAndNextAndOkReachTheTips) {
 
 TEST_F(StartupWindows, ConseilsCheckBoxWritesTheTipsFlag) {
     shell::ui::Conseils tips(nullptr, [] { return 0.0; });
-    auto* check = find<QCheckBox>(tips, "chkLoadTipsAtStartup");
+    auto* check = child<QCheckBox>(tips, "chkLoadTipsAtStartup");
     EXPECT_TRUE(check->isChecked());
     check->click();
     EXPECT_EQ(shell::Settings().read(shell::keys::kTipsAtStart), QStringLiteral("Non"));
     EXPECT_FALSE(shell::appState().preferences.tipsAtStart);
     shell::ui::Conseils again(nullptr, [] { return 0.0; });
-    EXPECT_FALSE(find<QCheckBox>(again, "chkLoadTipsAtStartup")->isChecked());
-    find<QCheckBox>(again, "chkLoadTipsAtStartup")->click();
+    EXPECT_FALSE(child<QCheckBox>(again, "chkLoadTipsAtStartup")->isChecked());
+    child<QCheckBox>(again, "chkLoadTipsAtStartup")->click();
     EXPECT_EQ(shell::Settings().read(shell::keys::kTipsAtStart), QStringLiteral("Oui"));
     again.show(); // with the program's own tips
     testsupport::saveScreenshot(again, QStringLiteral("Conseils"));
@@ -151,7 +143,7 @@ TEST_F(StartupWindows, AvertisTicksFromTheSettingAndStoresTheAnswer) {
     // Ticking it is checked where the editor brings it up; here, the way back.
     shell::Settings().save(shell::keys::kDepthWarning, QStringLiteral("Non"));
     shell::ui::Avertis warning;
-    auto* check = find<QCheckBox>(warning, "Coche1");
+    auto* check = child<QCheckBox>(warning, "Coche1");
     EXPECT_TRUE(check->isChecked());
     check->click();
     EXPECT_EQ(shell::Settings().read(shell::keys::kDepthWarning), QStringLiteral("Oui"));

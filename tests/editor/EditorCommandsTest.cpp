@@ -1,5 +1,4 @@
 #include "editor/EditorCommands.h"
-#include "editor/IconEditor.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +6,6 @@
 
 namespace {
 
-using editor::Command;
 using editor::Pad;
 
 TEST(EditorCommands, TheTableIsWholeAndEachPadCountsFromZero) {
@@ -26,18 +24,6 @@ TEST(EditorCommands, TheTableIsWholeAndEachPadCountsFromZero) {
     }
     EXPECT_EQ(editor::padCommands(Pad::Edition).size(), 11u);
     EXPECT_EQ(editor::commandForKey('A'), nullptr);
-}
-
-TEST(EditorCommands, UndoSettlesAFloatingPictureOnlyFromThePad) {
-    QImage red(2, 2, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    const auto& undo = editor::commandInfo(Command::Undo);
-    editor::IconEditor pad;
-    pad.PasteClipboard(red, true);
-    EXPECT_EQ(undo.run(pad, editor::Origin::Pad), editor::kRedraw);
-    editor::IconEditor keys;
-    keys.PasteClipboard(red, true);
-    EXPECT_EQ(undo.run(keys, editor::Origin::Key), editor::kHistoryFailed);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "EditorTestUtil.h"
+#include "editor/EditorCommands.h"
 
 #include <gtest/gtest.h>
 
@@ -159,18 +160,19 @@ TEST(Selection, CopyAndCutGiveThePictureOverWhite) {
 }
 
 TEST(Selection, UndoFromThePadStampsAFloatingPictureFirst) {
-    // From the pad: the picture is stamped (one step), then that step is undone.
     QImage red(2, 2, QImage::Format_RGB32);
     red.fill(Qt::red);
+    const auto& undo = editor::commandInfo(editor::Command::Undo);
+    // From the pad: the picture is stamped (one step), then that step is undone.
     IconEditor pad;
     pad.PasteClipboard(red, true);
-    EXPECT_EQ(pad.Undo(true), editor::kRedraw);
+    EXPECT_EQ(undo.run(pad, editor::Origin::Pad), editor::kRedraw);
     EXPECT_EQ(pad.selectionState(), SelectionState::None);
     EXPECT_EQ(pad.planes(), icon::IconPlanes::blank());
     EXPECT_EQ(pad.history().redoCount(), 1u);
     // From the keyboard: the picture keeps floating and the undo goes back past the base.
     IconEditor keys;
     keys.PasteClipboard(red, true);
-    EXPECT_EQ(keys.Undo(), editor::kHistoryFailed);
+    EXPECT_EQ(undo.run(keys, editor::Origin::Key), editor::kHistoryFailed);
     EXPECT_EQ(keys.selectionState(), SelectionState::Floating);
 }

@@ -44,7 +44,7 @@ TEST(GradientPreview, BarsAreKeptInRangeAndOnlyADrawingOrADirectionRedraws) {
 }
 
 TEST(KaleidoscopePreview, DensityIsBoundedAndAnyBackColourClearsThePattern) {
-    const icon::Colour back = 0xD2D200;
+    const icon::Colour back = 0x336699;
     KaleidoscopePreview preview(back);
     EXPECT_EQ(preview.density(), 250);
     EXPECT_EQ(preview.picture(), icon::Frame(32, 32, back));

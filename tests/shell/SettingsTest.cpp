@@ -164,11 +164,4 @@ TEST_F(SettingsTest, DeletingRemovesTheFileAndTheNextStartIsAFreshUser) {
     EXPECT_EQ(settings.read(keys::kIcons48), QStringLiteral("Oui"));
 }
 
-TEST(ToggleCaption, MarksAnOptionThatIsOn) {
-    EXPECT_EQ(shell::toggleCaption(QStringLiteral("Conseils au démarrage"), true),
-              QStringLiteral("Conseils au démarrage «"));
-    EXPECT_EQ(shell::toggleCaption(QStringLiteral("Conseils au démarrage"), false),
-              QStringLiteral("Conseils au démarrage"));
-}
-
 } // namespace
