@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fstream>
 
 namespace {
@@ -84,6 +85,9 @@ TEST(WindowsFiles, LookedForInThePrefixThenItsSystemFoldersThenWinesLibraries) {
     EXPECT_EQ(WindowsFiles::folders({}, "/home/nobody")[0],
               fs::path("/home/nobody/.wine/drive_c/windows"))
         << "the default prefix";
+    ::setenv("WINEPREFIX", prefix.c_str(), 1);
+    EXPECT_EQ(WindowsFiles::foldersOfThisUser()[0], windows) << "the user's own prefix";
+    ::unsetenv("WINEPREFIX");
 
     const fs::path library = pathOf(dir.filePath(QStringLiteral("wine-libs")));
     for (const fs::path& folder : {windows / "system32", windows / "system", library})
@@ -181,9 +185,9 @@ TEST(BmpExport, ThePictureIsTheIconAtTheViewSizeOverItsBackground) {
     thumbnail.bitmap.mask = icon::Frame(48, 48, icon::kBlack);
     thumbnail.bitmap.mask.set(0, 0, icon::kWhite);
     thumbnail.bitmap.image.set(0, 0, icon::kBlack);
-    const icon::Frame picture = browser::BmpExport::picture(&thumbnail, 48, 0xD2D200);
+    const icon::Frame picture = browser::BmpExport::picture(&thumbnail, 48, icon::Colour{0x336699});
     EXPECT_EQ(picture.width(), 48);
-    EXPECT_EQ(picture.at(0, 0), icon::Colour{0xD2D200}) << "the background shows through";
+    EXPECT_EQ(picture.at(0, 0), icon::Colour{0x336699}) << "the background shows through";
     EXPECT_EQ(picture.at(1, 1), icon::Colour{0x0000FF});
     EXPECT_EQ(browser::BmpExport::picture(nullptr, 32, 0x123456), icon::Frame(32, 32, 0x123456));
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The main window's file commands in the real program under Xvfb, as a user clicks them: copy
-# through the file dialog, rename through its window, delete to the trash, the picture to the
-# clipboard and the clipboard viewer, the help; then closing the main window ends the program
-# even with other windows open.
+# The main window in the real program under Xvfb: the count and the first icon it shows at
+# start, then its file commands as a user clicks them: copy through the file dialog, rename
+# through its window, delete to the trash, the picture to the clipboard and the clipboard
+# viewer, the help; then closing the main window ends the program even with other windows open.
 set -euo pipefail
 program=$1 testdata=$2 screenshots=$3
 source "$(dirname "$0")/common.sh"
@@ -13,6 +13,8 @@ mkdir -p "$folder" "$work/copies"
 for name in a b c; do
     cp "$testdata/ico/valid/moz_ico-size-32x32-24bpp.ico" "$folder/$name.ico"
 done
+# A name not all in lower case is an icon to the program too; it sorts last.
+cp "$testdata/ico/valid/decodeico_github.ico" "$folder/GitHub.ICO"
 
 cat >"$work/session.sh" <<SESSION
 set -eu
@@ -64,6 +66,8 @@ SESSION
 
 xvfb_run 120 bash "$work/session.sh"
 fail() { echo "$1" >&2; exit 1; }
+expect_line "NbrIco: 4 icônes"
+expect_line "Etiquette1: $(printf '%s' "$folder/a.ico" | tr '[:upper:]' '[:lower:]')"
 cmp -s "$folder/neuf.ico" "$work/copies/copie.ico" || fail "no copy of the first icon"
 [ ! -e "$folder/a.ico" ] && [ -e "$folder/neuf.ico" ] || fail "a.ico was not renamed neuf.ico"
 [ -e "$work/home/.local/share/Trash/files/b.ico" ] || fail "b.ico is not in the trash"
