@@ -93,4 +93,16 @@ TEST_F(PortalBus, NoAnswerARefusalOrNoPortalGiveAMessage) {
     EXPECT_TRUE(nothing.error.contains(QStringLiteral("à temps")));
 }
 
+// The session decides: the screen is read directly under X, never under Wayland, where only
+// the portal may see it (none answers here, without a session bus).
+TEST(DesktopGrabber, UnderWaylandOnlyThePortalIsAsked) {
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    EXPECT_TRUE(platform::desktopGrabber().grab().ok());
+    qputenv("XDG_SESSION_TYPE", "wayland");
+    const platform::DesktopPicture desktop = platform::desktopGrabber().grab();
+    qunsetenv("XDG_SESSION_TYPE");
+    EXPECT_FALSE(desktop.ok());
+    EXPECT_TRUE(desktop.error.startsWith(platform::noDesktopPictureText()));
+}
+
 } // namespace
