@@ -9,7 +9,12 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::span<const std::uint8_t> bytes(data, size);
-    fuzzcheck::checkIcons(bytes, icon::readPeIcons(bytes));
-    fuzzcheck::checkSource(bytes);
+    // Large executables are read once: through the source when it takes them as PE, else
+    // by the PE reader alone.
+    const std::optional<icon::IconSource> source = fuzzcheck::checkSource(bytes);
+    if (source && source->kind() == icon::IconSource::Kind::Pe)
+        fuzzcheck::checkIcons(bytes, *source);
+    else
+        fuzzcheck::checkIcons(bytes, icon::readPeIcons(bytes));
     return 0;
 }
