@@ -7,7 +7,40 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+// "--help" and "--version" alone are answered on the terminal, before any window or display.
+bool answeredOnTerminal(int argc, char** argv) {
+    if (argc != 2)
+        return false;
+    if (std::strcmp(argv[1], "--version") == 0) {
+        std::fputs("Orvanne " ORVANNE_VERSION "\n", stdout);
+        return true;
+    }
+    if (std::strcmp(argv[1], "--help") == 0) {
+        std::fputs("Usage : orvanne [/open FICHIER]\n"
+                   "        orvanne --help | --version\n"
+                   "\n"
+                   "Parcourt les dossiers d'icônes Windows, extrait les icônes des fichiers EXE, "
+                   "DLL, ICL et ANI et édite les icônes 32×32.\n"
+                   "\n"
+                   "  /open FICHIER   ouvre cette icône dans l'éditeur d'icônes au démarrage\n"
+                   "  --help          affiche cette aide\n"
+                   "  --version       affiche la version du programme\n",
+                   stdout);
+        return true;
+    }
+    return false;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
+    if (answeredOnTerminal(argc, argv))
+        return 0;
     QApplication app(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Orvanne®"));
     QApplication::setDesktopFileName(QStringLiteral("orvanne"));

@@ -52,7 +52,8 @@ const std::array kCommands{
 };
 
 void printUsage(QTextStream& out) {
-    out << "Usage : orvanne-icons COMMANDE ARGUMENTS...\n\nCommandes :\n";
+    out << "Usage : orvanne-icons COMMANDE ARGUMENTS...\n"
+           "        orvanne-icons --help | --version\n\nCommandes :\n";
     for (const Command& c : kCommands)
         out << "  " << c.synopsis << "\n      " << c.summary << "\n";
     out << "\nCode de sortie : 0 en cas de succès, 1 si l'entrée est refusée ou la sortie "
@@ -70,6 +71,10 @@ int main(int argc, char** argv) {
         return console.fail(cli::kUsage, QStringLiteral("il manque la commande.") + hint);
     if (words[0] == QLatin1String("--help") || words[0] == QLatin1String("-h")) {
         printUsage(console.out());
+        return cli::kSuccess;
+    }
+    if (words[0] == QLatin1String("--version")) {
+        console.out() << "orvanne-icons " ORVANNE_VERSION "\n";
         return cli::kSuccess;
     }
     for (const Command& c : kCommands) {

@@ -10,6 +10,7 @@ packages=(
     clang libclang-rt-14-dev
     xvfb xauth xdotool imagemagick dbus-daemon
     libcanberra-dev fonts-dejavu-core
+    help2man librsvg2-bin appstream desktop-file-utils
 )
 
 missing=()

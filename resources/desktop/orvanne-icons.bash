@@ -1,0 +1,54 @@
+# Completion of orvanne-icons for bash: the commands, each command's options and values, then
+# file names (folder names for the folder that extract writes into).
+_orvanne_icons() {
+    local cur=${COMP_WORDS[COMP_CWORD]}
+    local prev=${COMP_WORDS[COMP_CWORD - 1]}
+    COMPREPLY=()
+    if [[ $COMP_CWORD -eq 1 ]]; then
+        mapfile -t COMPREPLY < <(compgen -W \
+            "info list extract to-ico to-bmp to-png thumbnail --help --version" -- "$cur")
+        return
+    fi
+
+    local command=${COMP_WORDS[1]} options
+    case $command in
+        info | list) options="" ;;
+        extract | to-ico) options="--index" ;;
+        to-bmp) options="--size --background" ;;
+        to-png) options="--index --size" ;;
+        thumbnail) options="--size" ;;
+        *) return ;;
+    esac
+
+    case $prev in
+        --index | --background) return ;; # a number or a colour: nothing to offer
+        --size)
+            local sizes="16 24 32 48 64 128 256"
+            [[ $command == to-bmp ]] && sizes="32 48"
+            mapfile -t COMPREPLY < <(compgen -W "$sizes" -- "$cur")
+            return
+            ;;
+    esac
+
+    if [[ $cur == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$options --" -- "$cur")
+        return
+    fi
+
+    # The positional arguments typed so far, options and their values left out.
+    local i positional=0
+    for ((i = 2; i < COMP_CWORD; i++)); do
+        case ${COMP_WORDS[i]} in
+            --index | --size | --background) ((i++)) ;;
+            -*) ;;
+            *) ((positional++)) ;;
+        esac
+    done
+    compopt -o filenames 2>/dev/null
+    if [[ $command == extract && $positional -eq 1 ]]; then
+        mapfile -t COMPREPLY < <(compgen -d -- "$cur")
+    else
+        mapfile -t COMPREPLY < <(compgen -f -- "$cur")
+    fi
+}
+complete -F _orvanne_icons orvanne-icons
