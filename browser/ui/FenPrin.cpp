@@ -26,6 +26,7 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QStyle>
+#include <QWindow>
 
 namespace browser::ui {
 
@@ -148,6 +149,18 @@ void FenPrin::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_popUp->refreshCaptions();
     QWidget::changeEvent(event);
+}
+
+void FenPrin::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    // On a screen of another scale the cells are decoded again for its pixels.
+    if (m_followsScreen || windowHandle() == nullptr)
+        return;
+    m_followsScreen = true;
+    connect(windowHandle(), &QWindow::screenChanged, this, [this] {
+        if (m_grid.count() > 0 && m_grid.deviceScale() != devicePixelRatioF())
+            displayGrid();
+    });
 }
 
 void FenPrin::openFolder(const QString& folder, MissingFolder report) {

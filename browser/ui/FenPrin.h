@@ -20,6 +20,7 @@ class QComboBox;
 class QDragEnterEvent;
 class QDropEvent;
 class QKeyEvent;
+class QShowEvent;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
@@ -75,6 +76,7 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -148,6 +150,7 @@ private:
     QPointer<VisuBMP> m_visuBmp;
     // The icon a drop asked to centre once its folder is listed.
     std::optional<std::filesystem::path> m_centreOn;
+    bool m_followsScreen = false;
 };
 
 } // namespace browser::ui
