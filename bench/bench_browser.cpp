@@ -87,10 +87,12 @@ void FirstPage(benchmark::State& state) {
 }
 BENCHMARK(FirstPage)->Arg(32)->Arg(48)->Unit(benchmark::kMillisecond);
 
-// "Page suivante" through the folder, every page new to the cache (42 new cells at 32×32).
+// "Page suivante" through the folder, every page new to the cache (42 new cells at 32×32), on a
+// screen at the scale given (1, or 2 where the cells are decoded at 64 pixels).
 void PageMove(benchmark::State& state) {
     const browser::IcoThumbnailProvider provider;
     browser::IconGrid grid(provider);
+    grid.setDeviceScale(static_cast<double>(state.range(0)));
     grid.openFolder(folder());
     grid.loadPage();
     for (auto _ : state) {
@@ -104,7 +106,7 @@ void PageMove(benchmark::State& state) {
         benchmark::DoNotOptimize(grid.loadPage());
     }
 }
-BENCHMARK(PageMove)->Unit(benchmark::kMillisecond);
+BENCHMARK(PageMove)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -14,12 +14,11 @@ QString BmpExport::filter() {
 
 icon::Frame BmpExport::picture(const Thumbnail* thumbnail, int size, icon::Colour background) {
     if (thumbnail == nullptr || thumbnail->state != Thumbnail::State::Icon ||
-        thumbnail->bitmap.isEmpty())
+        thumbnail->picture.isEmpty())
         return icon::Frame(size, size, background);
-    const icon::IconBitmap& bitmap = thumbnail->bitmap;
-    if (bitmap.width() == size && bitmap.height() == size)
-        return icon::composeOver(bitmap, background);
-    return icon::composeOver(icon::resample(bitmap, size, size), background);
+    // The cell is decoded for the screen; the file gets the view's own size.
+    const CellPicture& picture = thumbnail->picture;
+    return blendOver(picture.side == size ? picture : scaled(picture, size), background);
 }
 
 } // namespace browser

@@ -30,6 +30,17 @@ bool isRegularFile(const std::string& folder, const dirent* entry) {
     return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode);
 }
 
+// A directory entry that is a folder, links to folders included.
+bool isFolder(const std::string& folder, const dirent* entry) {
+    if (entry->d_type == DT_DIR)
+        return true;
+    if (entry->d_type != DT_LNK && entry->d_type != DT_UNKNOWN)
+        return false;
+    struct stat info {};
+    const std::string path = folder + entry->d_name;
+    return ::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
 } // namespace
 
 QString withTrailingSlash(const QString& folder) {
@@ -47,10 +58,18 @@ std::optional<std::vector<IconEntry>> scanIconFolder(const QString& folder) {
 }
 
 std::optional<std::vector<IconEntry>> scanIconFolder(const std::filesystem::path& folder) {
+    std::optional<FolderListing> listing = readFolder(folder);
+    if (!listing)
+        return std::nullopt;
+    return std::move(listing->icons);
+}
+
+std::optional<FolderListing> readFolder(const std::filesystem::path& folder) {
     const std::string base = withTrailingSlash(folder).native();
     DIR* dir = ::opendir(base.c_str());
     if (dir == nullptr)
         return std::nullopt;
+    FolderListing listing;
     // Each name as the file system holds it, with the lower-cased text it is shown and sorted by.
     std::vector<std::pair<std::string, QString>> names;
     while (const dirent* entry = ::readdir(dir)) {
@@ -59,6 +78,8 @@ std::optional<std::vector<IconEntry>> scanIconFolder(const std::filesystem::path
             const QString shown = QFile::decodeName(
                 QByteArray::fromRawData(entry->d_name, static_cast<qsizetype>(length)));
             names.emplace_back(std::string(entry->d_name, length), shown.toLower());
+        } else if (entry->d_name[0] != '.' && isFolder(base, entry)) {
+            listing.subfolders.emplace_back(entry->d_name, length);
         }
     }
     ::closedir(dir);
@@ -70,11 +91,10 @@ std::optional<std::vector<IconEntry>> scanIconFolder(const std::filesystem::path
 
     const QString shownBase =
         withTrailingSlash(QFile::decodeName(QByteArray::fromStdString(base))).toLower();
-    std::vector<IconEntry> entries;
-    entries.reserve(names.size());
+    listing.icons.reserve(names.size());
     for (const auto& [name, lower] : names)
-        entries.push_back({std::filesystem::path(base + name), shownBase + lower});
-    return entries;
+        listing.icons.push_back({std::filesystem::path(base + name), shownBase + lower});
+    return listing;
 }
 
 } // namespace browser

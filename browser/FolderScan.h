@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace browser {
@@ -23,5 +24,14 @@ std::filesystem::path withTrailingSlash(const std::filesystem::path& folder);
 // case. Reads no icon. Nothing when the folder cannot be read (it no longer exists).
 std::optional<std::vector<IconEntry>> scanIconFolder(const std::filesystem::path& folder);
 std::optional<std::vector<IconEntry>> scanIconFolder(const QString& folder);
+
+// One pass over a folder: its icon files as above, and its subfolders (links to folders
+// included, hidden ones left out) by the names the file system gives, unsorted. The folder list
+// and the grid share it, so that a folder is read once however many entries it has.
+struct FolderListing {
+    std::vector<IconEntry> icons;
+    std::vector<std::string> subfolders;
+};
+std::optional<FolderListing> readFolder(const std::filesystem::path& folder);
 
 } // namespace browser

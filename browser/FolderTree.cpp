@@ -45,6 +45,12 @@ std::vector<FolderItem> folderItems(const QString& folder) {
 }
 
 std::vector<FolderItem> folderItems(const std::filesystem::path& folder) {
+    const std::string path = folder.lexically_normal().native();
+    return folderItems(folder, subfolders(path.empty() ? std::string("/") : path));
+}
+
+std::vector<FolderItem> folderItems(const std::filesystem::path& folder,
+                                    std::vector<std::string> subfolderNames) {
     std::vector<FolderItem> items;
     const std::filesystem::path clean = folder.lexically_normal();
     items.push_back({QStringLiteral("/"), QStringLiteral("/"), 0, true, "/"});
@@ -57,9 +63,8 @@ std::vector<FolderItem> folderItems(const std::filesystem::path& folder) {
             {shown(path), shown(part.native()), static_cast<int>(items.size()), true, path});
     }
     const int depth = static_cast<int>(items.size());
-    const std::string parent = path.empty() ? std::string("/") : path;
     std::vector<std::pair<QString, std::string>> children;
-    for (std::string& name : subfolders(parent))
+    for (std::string& name : subfolderNames)
         children.emplace_back(shown(name).toLower(), std::move(name));
     // By name without regard to case, as the folder list has always been sorted.
     std::sort(children.begin(), children.end());

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 namespace browser {
@@ -21,6 +22,9 @@ struct FolderItem {
 // regard to case; hidden ones (a leading dot) are left out as a file manager does.
 std::vector<FolderItem> folderItems(const QString& folder);
 std::vector<FolderItem> folderItems(const std::filesystem::path& folder);
+// The same with the current folder's subfolders already read (by readFolder).
+std::vector<FolderItem> folderItems(const std::filesystem::path& folder,
+                                    std::vector<std::string> subfolders);
 
 // The index of the current folder among the items.
 int currentItem(const std::vector<FolderItem>& items);

@@ -1,12 +1,10 @@
 #include "browser/ThumbnailProvider.h"
 
-#include "icon/IcoReader.h"
-
 namespace browser {
 
-std::optional<icon::IconBitmap> IcoThumbnailProvider::decode(std::span<const std::uint8_t> bytes,
-                                                             int size) const {
-    return icon::decodeIcon(bytes, size);
+std::optional<CellPicture> IcoThumbnailProvider::decode(std::span<const std::uint8_t> bytes,
+                                                        int side) const {
+    return decodeCellPicture(bytes, side);
 }
 
 } // namespace browser

@@ -5,11 +5,38 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cmath>
 
 namespace browser {
 
-IconGrid::IconGrid(const ThumbnailProvider& provider)
-    : m_provider(provider) {}
+IconGrid::IconGrid(const ThumbnailProvider& provider, std::size_t cacheBytes)
+    : m_provider(provider)
+    , m_cacheBytes(cacheBytes)
+    , m_cache(cacheBytes) {
+    fitCacheBudget();
+}
+
+void IconGrid::setDeviceScale(double scale) {
+    if (!(scale > 0.0) || scale == m_scale)
+        return;
+    m_scale = scale;
+    m_cache.clear();
+    fitCacheBudget();
+}
+
+int IconGrid::deviceSide() const {
+    constexpr int kLargest = 1024;
+    const long side = std::lround(geometry().cellSize * m_scale);
+    return static_cast<int>(std::clamp(side, 1L, static_cast<long>(kLargest)));
+}
+
+void IconGrid::fitCacheBudget() {
+    // Whatever the budget, two pages of the view in use fit: the page shown is never dropped
+    // while it is being loaded.
+    const std::size_t side = static_cast<std::size_t>(deviceSide());
+    const std::size_t page = static_cast<std::size_t>(geometry().cellCount()) * side * side * 4;
+    m_cache.setBudget(std::max(m_cacheBytes, 2 * page + 64 * 1024));
+}
 
 const GridGeometry& IconGrid::geometry() const {
     static constexpr GridGeometry small = GridGeometry::of(GridView::Icons32);
@@ -31,6 +58,7 @@ ScanResult IconGrid::refresh() {
 
 ScanResult IconGrid::switchView() {
     m_view = m_view == GridView::Icons48 ? GridView::Icons32 : GridView::Icons48;
+    fitCacheBudget();
     return refresh();
 }
 
@@ -39,13 +67,14 @@ QString IconGrid::folder() const {
 }
 
 ScanResult IconGrid::list(const std::filesystem::path& folder, bool keepIndex) {
-    auto scanned = scanIconFolder(folder);
-    if (!scanned)
+    auto listing = readFolder(folder);
+    if (!listing)
         return ScanResult::FolderMissing;
     m_folder = withTrailingSlash(folder);
     m_cache.clear();
+    m_subfolders = std::move(listing->subfolders);
     ViewState& view = state();
-    view.entries = std::move(*scanned);
+    view.entries = std::move(listing->icons);
     const int total = count();
     if (total == 0)
         view.current = 0;
@@ -66,6 +95,17 @@ void IconGrid::clickCell(int cell) {
     if (cell < 0 || cell >= geometry().cellCount())
         return;
     moveTo(current() + cell - geometry().centre);
+}
+
+bool IconGrid::centreOn(const std::filesystem::path& file) {
+    const std::vector<IconEntry>& list = entries();
+    const auto found = std::find_if(list.begin(), list.end(), [&](const IconEntry& entry) {
+        return entry.file.lexically_normal() == file.lexically_normal();
+    });
+    if (found == list.end())
+        return false;
+    moveTo(static_cast<int>(found - list.begin()) + 1);
+    return true;
 }
 
 std::optional<int> IconGrid::entryOfCell(int cell) const {
@@ -109,13 +149,13 @@ Thumbnail IconGrid::load(const IconEntry& entry) const {
                                                             : Thumbnail::State::Unreadable;
         return thumbnail;
     }
-    auto bitmap = m_provider.decode(*bytes, geometry().cellSize);
-    if (!bitmap || bitmap->isEmpty()) {
+    auto picture = m_provider.decode(*bytes, deviceSide());
+    if (!picture || picture->isEmpty()) {
         thumbnail.state = Thumbnail::State::Unreadable;
         return thumbnail;
     }
     thumbnail.state = Thumbnail::State::Icon;
-    thumbnail.bitmap = std::move(*bitmap);
+    thumbnail.picture = std::move(*picture);
     return thumbnail;
 }
 
@@ -126,7 +166,7 @@ bool IconGrid::loadPage() {
         if (!index)
             continue;
         const IconEntry& entry = state().entries[static_cast<std::size_t>(*index - 1)];
-        if (m_cache.contains(entry.file.native()))
+        if (m_cache.use(entry.file.native()) != nullptr)
             continue;
         Thumbnail thumbnail = load(entry);
         // A file that has gone is never kept: it may come back before the next look. The
@@ -135,7 +175,7 @@ bool IconGrid::loadPage() {
             complete = false;
             continue;
         }
-        m_cache.insert_or_assign(entry.file.native(), std::move(thumbnail));
+        m_cache.put(entry.file.native(), std::move(thumbnail));
     }
     return complete;
 }
@@ -144,9 +184,7 @@ const Thumbnail* IconGrid::cell(int cell) const {
     const auto index = entryOfCell(cell);
     if (!index)
         return nullptr;
-    const auto found =
-        m_cache.find(state().entries[static_cast<std::size_t>(*index - 1)].file.native());
-    return found == m_cache.end() ? nullptr : &found->second;
+    return m_cache.peek(state().entries[static_cast<std::size_t>(*index - 1)].file.native());
 }
 
 bool IconGrid::reloadCentre() {
@@ -158,7 +196,7 @@ bool IconGrid::reloadCentre() {
         m_cache.erase(entry->file.native());
         return false;
     }
-    m_cache.insert_or_assign(entry->file.native(), std::move(thumbnail));
+    m_cache.put(entry->file.native(), std::move(thumbnail));
     return true;
 }
 

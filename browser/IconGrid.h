@@ -2,26 +2,17 @@
 
 #include "browser/FolderScan.h"
 #include "browser/GridGeometry.h"
+#include "browser/ThumbnailCache.h"
 #include "browser/ThumbnailProvider.h"
-
-#include "icon/IconBitmap.h"
 
 #include <QString>
 
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace browser {
-
-// What a cell of the grid holds once loaded.
-struct Thumbnail {
-    enum class State { Icon, Unreadable, Missing };
-    State state = State::Missing;
-    icon::IconBitmap bitmap; // size×size when state is Icon
-};
 
 enum class ScanResult { Listed, Empty, FolderMissing };
 
@@ -30,12 +21,21 @@ enum class ScanResult { Listed, Empty, FolderMissing };
 // list of the view in use is filled; a view switch lists the folder again for the other view.
 class IconGrid {
 public:
-    explicit IconGrid(const ThumbnailProvider& provider);
+    // A few pages' worth of decoded cells is kept: paging back and forth is instant, and the
+    // memory does not grow with the folder.
+    static constexpr std::size_t kCacheBytes = 4u * 1024u * 1024u;
+    explicit IconGrid(const ThumbnailProvider& provider, std::size_t cacheBytes = kCacheBytes);
 
     GridView view() const { return m_view; }
     const GridGeometry& geometry() const;
     // Chooses the view without listing anything (used once, before the first folder).
     void setView(GridView view) { m_view = view; }
+    // Screen pixels per pixel of the window: cells are decoded at their size on the screen, so
+    // that they stay sharp at any scale. A change drops what was decoded at the old scale.
+    void setDeviceScale(double scale);
+    double deviceScale() const { return m_scale; }
+    // The side of a cell's picture in screen pixels.
+    int deviceSide() const;
 
     // A change of folder: lists it and centres its first icon. When the folder cannot be read
     // everything stays as it was.
@@ -54,6 +54,8 @@ public:
     void first() { moveTo(1); }
     void last() { moveTo(count()); }
     void clickCell(int cell);
+    // Centres the icon file `file` when the list holds it; false otherwise.
+    bool centreOn(const std::filesystem::path& file);
 
     // The folder shown, with its trailing "/": as text, and as the file system's bytes.
     QString folder() const;
@@ -64,6 +66,8 @@ public:
     std::optional<int> entryOfCell(int cell) const;
     const IconEntry* centred() const;
     const std::vector<IconEntry>& entries() const { return state().entries; }
+    // The subfolders found when the folder was last listed (unsorted, by their byte names).
+    const std::vector<std::string>& subfolders() const { return m_subfolders; }
 
     QString pathText() const;  // Etiquette1
     QString countText() const; // NbrIco
@@ -86,13 +90,17 @@ private:
     void moveTo(int index);
     ScanResult list(const std::filesystem::path& folder, bool keepIndex);
     Thumbnail load(const IconEntry& entry) const;
+    void fitCacheBudget();
 
     const ThumbnailProvider& m_provider;
+    std::size_t m_cacheBytes;
     GridView m_view = GridView::Icons32;
     std::filesystem::path m_folder;
     ViewState m_states[2];
-    // Decoded pictures of the view in use, kept while the folder is shown.
-    std::unordered_map<std::string, Thumbnail> m_cache;
+    double m_scale = 1.0;
+    std::vector<std::string> m_subfolders;
+    // Decoded pictures of the view in use, the least recently shown dropped past a few MB.
+    ThumbnailCache m_cache;
 };
 
 } // namespace browser

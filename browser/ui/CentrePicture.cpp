@@ -29,23 +29,25 @@ void CentrePicture::setBackground(icon::Colour colour) {
     update();
 }
 
-QImage CentrePicture::picture() const {
-    QImage image(size(), QImage::Format_RGB32);
+QImage CentrePicture::picture(double scale) const {
+    QImage image(QSize(qRound(width() * scale), qRound(height() * scale)), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
     image.fill(platform::toQColor(m_background));
     if (m_grid.view() != m_view)
         return image;
     const GridGeometry geometry = GridGeometry::of(m_view);
     if (const Thumbnail* thumbnail = m_grid.cell(geometry.centre)) {
-        const QImage icon = thumbnailImage(*thumbnail, m_background);
+        const int side = geometry.cellSize;
+        const QImage icon = thumbnailImage(*thumbnail, m_background, side, qRound(side * scale));
         QPainter painter(&image);
-        painter.drawImage((width() - icon.width()) / 2, (height() - icon.height()) / 2, icon);
+        painter.drawImage(QRectF((width() - side) / 2, (height() - side) / 2, side, side), icon);
     }
     return image;
 }
 
 void CentrePicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.drawImage(0, 0, picture());
+    painter.drawImage(QRectF(0, 0, width(), height()), picture(devicePixelRatioF()));
     // A sunken frame marks the icon the commands act on.
     painter.setPen(platform::toQColor(m_background).darker(170));
     painter.drawLine(0, 0, width() - 1, 0);

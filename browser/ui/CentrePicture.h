@@ -19,7 +19,9 @@ public:
 
     void setBackground(icon::Colour colour);
     icon::Colour background() const { return m_background; }
-    QImage picture() const; // what it shows, background included
+    // What it shows, background included, at `scale` screen pixels per window pixel (1 for
+    // the clipboard, the screen's own when painted).
+    QImage picture(double scale = 1.0) const;
 
     static QString helpText();
 

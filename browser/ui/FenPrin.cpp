@@ -2,6 +2,7 @@
 
 #include "browser/ui/FenPrinLayout.h"
 
+#include "browser/BrowserInput.h"
 #include "browser/FolderTree.h"
 #include "browser/ui/CentrePicture.h"
 #include "browser/ui/IconGridView.h"
@@ -9,6 +10,7 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/Services.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 #include "shell/AppState.h"
 #include "shell/DataFiles.h"
@@ -17,10 +19,14 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QListWidget>
+#include <QMimeData>
 #include <QStyle>
+#include <QWindow>
 
 namespace browser::ui {
 
@@ -70,6 +76,14 @@ FenPrin::FenPrin(const ThumbnailProvider& provider, QWidget* parent)
     applyColours();
     placeGrids();
     clearGrid();
+
+    // The lists would take the grid's keys for their own highlight.
+    m_folders->installEventFilter(this);
+    m_drives->installEventFilter(this);
+    platform::setWindowKeys(*this, {nullptr, nullptr, [this] {
+                                        showHelp(true);
+                                    }});
+    setAcceptDrops(true);
 }
 
 FenPrin::~FenPrin() = default;
@@ -137,6 +151,18 @@ void FenPrin::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
 }
 
+void FenPrin::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    // On a screen of another scale the cells are decoded again for its pixels.
+    if (m_followsScreen || windowHandle() == nullptr)
+        return;
+    m_followsScreen = true;
+    connect(windowHandle(), &QWindow::screenChanged, this, [this] {
+        if (m_grid.count() > 0 && m_grid.deviceScale() != devicePixelRatioF())
+            displayGrid();
+    });
+}
+
 void FenPrin::openFolder(const QString& folder, MissingFolder report) {
     openFolder(icon::pathFromText(QDir::cleanPath(QDir(folder).absolutePath())), report);
 }
@@ -150,6 +176,9 @@ void FenPrin::openFolder(const std::filesystem::path& folder, MissingFolder repo
     const ScanResult result = std::filesystem::is_directory(real, error)
                                   ? m_grid.openFolder(real)
                                   : ScanResult::FolderMissing;
+    if (m_centreOn && result == ScanResult::Listed)
+        m_grid.centreOn(*m_centreOn);
+    m_centreOn.reset();
     if (result == ScanResult::FolderMissing) {
         if (report == MissingFolder::Report)
             showFolderMissing();
@@ -176,7 +205,8 @@ void FenPrin::showFolderMissing() {
 
 void FenPrin::fillFolderList(const std::filesystem::path& folder) {
     m_folders->clear();
-    const auto items = folderItems(folder);
+    // The grid has just read the folder: its subfolders come from that same pass.
+    const auto items = folderItems(folder, m_grid.subfolders());
     for (const FolderItem& entry : items) {
         auto* item = new QListWidgetItem(
             style()->standardIcon(entry.open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon),
@@ -239,6 +269,8 @@ void FenPrin::clearGrid() {
 }
 
 void FenPrin::displayGrid() {
+    // Cells are decoded for the screen's pixels: sharp at any scale factor.
+    m_grid.setDeviceScale(devicePixelRatioF());
     const bool complete = m_grid.loadPage();
     for (IconGridView* view : {m_fond, m_fond48}) {
         view->update();
@@ -327,6 +359,57 @@ void FenPrin::chooseGridBackground(bool centre) {
         view->centre().setBackground(*chosen);
     else
         view->setBackground(*chosen);
+}
+
+bool FenPrin::gridKeyPressed(QKeyEvent* event) {
+    if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return false;
+    const std::optional<GridKey> key = gridKey(event->key());
+    if (!key)
+        return false;
+    if (*key == GridKey::Edit)
+        centreRightPressed();
+    else
+        moveIndex([this, key] { applyGridKey(m_grid, *key); });
+    return true;
+}
+
+bool FenPrin::eventFilter(QObject* watched, QEvent* event) {
+    if ((watched == m_folders || watched == m_drives) && event->type() == QEvent::KeyPress)
+        return gridKeyPressed(static_cast<QKeyEvent*>(event));
+    return QWidget::eventFilter(watched, event);
+}
+
+void FenPrin::keyPressEvent(QKeyEvent* event) {
+    if (!gridKeyPressed(event))
+        QWidget::keyPressEvent(event);
+}
+
+namespace {
+
+// The first local file of a drag, where the main window would take it.
+std::optional<DropTarget> droppedTarget(const QMimeData* data) {
+    if (data == nullptr || !data->hasUrls() || data->urls().isEmpty() ||
+        !data->urls().front().isLocalFile())
+        return std::nullopt;
+    return dropTarget(icon::pathFromText(data->urls().front().toLocalFile()));
+}
+
+} // namespace
+
+void FenPrin::dragEnterEvent(QDragEnterEvent* event) {
+    if (droppedTarget(event->mimeData()))
+        event->acceptProposedAction();
+}
+
+void FenPrin::dropEvent(QDropEvent* event) {
+    const std::optional<DropTarget> target = droppedTarget(event->mimeData());
+    if (!target)
+        return;
+    event->acceptProposedAction();
+    hidePopUp();
+    m_centreOn = target->icon;
+    openFolder(target->folder);
 }
 
 void FenPrin::hidePopUp() {

@@ -13,9 +13,14 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QComboBox;
+class QDragEnterEvent;
+class QDropEvent;
+class QKeyEvent;
+class QShowEvent;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
@@ -71,6 +76,11 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void buildTitleRow();
@@ -81,6 +91,7 @@ private:
     platform::GradientButton* addCommand(const char* name, const QString& caption,
                                          const QString& help, const QRect& place);
 
+    bool gridKeyPressed(QKeyEvent* event);
     void showFolderMissing();
     void showScanResult(ScanResult result);
     void displayGrid();
@@ -137,6 +148,9 @@ private:
     icon::Frame m_taken; // PicIcon
     QLabel* m_picIcon = nullptr;
     QPointer<VisuBMP> m_visuBmp;
+    // The icon a drop asked to centre once its folder is listed.
+    std::optional<std::filesystem::path> m_centreOn;
+    bool m_followsScreen = false;
 };
 
 } // namespace browser::ui

@@ -6,9 +6,11 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 
 #include <QLabel>
@@ -58,10 +60,6 @@ FenRen::FenRen(const RenameParts& parts, QWidget* parent)
     m_newName->setObjectName(QStringLiteral("NouvNom"));
     m_newName->setGeometry(14, 114, 392, 20);
     connect(m_newName, &QLineEdit::textChanged, this, &FenRen::textChanged);
-    connect(m_newName, &QLineEdit::returnPressed, this, [this] {
-        if (m_ok->isEnabled())
-            confirm();
-    });
 
     m_ok = platform::makeButton(this, "CmdOK", QStringLiteral("OK"),
                                 QStringLiteral("Renommer l'icône"), QRect(228, 140, 86, 20));
@@ -70,6 +68,10 @@ FenRen::FenRen(const RenameParts& parts, QWidget* parent)
         platform::makeButton(this, "CmdAnnul", QStringLiteral("Annuler"),
                              QStringLiteral("Fermer sans renommer"), QRect(322, 140, 86, 20));
     connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
+    platform::setWindowKeys(*this,
+                            {m_ok, cancel, [] {
+                                 platform::HelpViewer::showPage(QStringLiteral("visualiseur.html"));
+                             }});
 
     platform::applyScheme(*this);
     textChanged(m_newName->text());

@@ -6,9 +6,11 @@
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/MakeButton.h"
 #include "platform/Services.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 
 #include <QCoreApplication>
@@ -91,6 +93,10 @@ FrmIcons::FrmIcons(PickerState& state, const shell::ColourScheme& colours,
             accept();
     });
     connect(button("CmdCancel"), &QAbstractButton::clicked, this, &QDialog::reject);
+    platform::setWindowKeys(*this,
+                            {button("CmdOK"), button("CmdCancel"), [] {
+                                 platform::HelpViewer::showPage(QStringLiteral("visualiseur.html"));
+                             }});
 
     m_panel = new IcoWinPanel(windowsFolders, this);
     m_panel->move((width - m_panel->width()) / 2, kFrameTop + 20);

@@ -8,10 +8,16 @@
 
 namespace browser::ui {
 
-QImage thumbnailImage(const Thumbnail& thumbnail, icon::Colour background) {
-    if (thumbnail.state != Thumbnail::State::Icon)
+QImage thumbnailImage(const Thumbnail& thumbnail, icon::Colour background, int logicalSide,
+                      int side) {
+    if (thumbnail.state != Thumbnail::State::Icon || thumbnail.picture.isEmpty())
         return {};
-    return icon::composeOver(thumbnail.bitmap, background).toImage();
+    const CellPicture& picture = thumbnail.picture;
+    QImage image =
+        blendOver(side == 0 || side == picture.side ? picture : scaled(picture, side), background)
+            .toImage();
+    image.setDevicePixelRatio(static_cast<double>(image.width()) / logicalSide);
+    return image;
 }
 
 IconGridView::IconGridView(const IconGrid& grid, GridView view, QWidget* parent)
@@ -36,7 +42,8 @@ QImage IconGridView::cellImage(int cell) const {
     if (m_grid.view() != m_view)
         return {};
     const Thumbnail* thumbnail = m_grid.cell(cell);
-    return thumbnail ? thumbnailImage(*thumbnail, m_background) : QImage();
+    return thumbnail ? thumbnailImage(*thumbnail, m_background, GridGeometry::of(m_view).cellSize)
+                     : QImage();
 }
 
 void IconGridView::paintEvent(QPaintEvent*) {
@@ -52,7 +59,9 @@ void IconGridView::paintEvent(QPaintEvent*) {
             continue;
         const QImage image = cellImage(k);
         if (!image.isNull())
-            painter.drawImage(geometry.cellX(k), geometry.cellY(k), image);
+            painter.drawImage(
+                QRectF(geometry.cellX(k), geometry.cellY(k), geometry.cellSize, geometry.cellSize),
+                image);
     }
 }
 

@@ -23,7 +23,7 @@ public:
     CentrePicture& centre() { return *m_centre; }
     void setBackground(icon::Colour colour);
     icon::Colour background() const { return m_background; }
-    // The picture of one cell as the panel shows it (for tests and the clipboard).
+    // The picture of one cell as the panel shows it, in screen pixels.
     QImage cellImage(int cell) const;
 
 signals:
@@ -43,7 +43,9 @@ private:
     int m_pressedCell = -1;
 };
 
-// Draws a cell's picture over a background colour, as (background AND mask) XOR colour.
-QImage thumbnailImage(const Thumbnail& thumbnail, icon::Colour background);
+// A cell's picture blended over a background colour, `side` pixels square (its own size when
+// 0), marked as drawn at `logicalSide` pixels of the window so that it lands 1:1 on the screen.
+QImage thumbnailImage(const Thumbnail& thumbnail, icon::Colour background, int logicalSide,
+                      int side = 0);
 
 } // namespace browser::ui

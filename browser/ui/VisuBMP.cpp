@@ -6,8 +6,10 @@
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
 #include "platform/HelpBubbles.h"
+#include "platform/HelpViewer.h"
 #include "platform/MakeButton.h"
 #include "platform/TitleButton.h"
+#include "platform/WindowKeys.h"
 #include "platform/WindowStyle.h"
 
 #include <QComboBox>
@@ -82,6 +84,11 @@ VisuBMP::VisuBMP(const QString& folder, const shell::ColourScheme& colours, QWid
     auto* close = platform::makeButton(this, "CmdFermer", QStringLiteral("X"),
                                        QStringLiteral("Fermer"), QRect(width() - 26, 4, 22, 22));
     connect(close, &QAbstractButton::clicked, this, &QDialog::accept);
+    // Return belongs to the file list (it shows the file); Escape closes.
+    platform::setWindowKeys(*this,
+                            {nullptr, close, [] {
+                                 platform::HelpViewer::showPage(QStringLiteral("visualiseur.html"));
+                             }});
 
     m_frame = new platform::GradientPanel(this);
     m_frame->setObjectName(QStringLiteral("Forme1"));

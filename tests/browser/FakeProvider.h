@@ -12,14 +12,16 @@ namespace browsertest {
 // files it was asked to decode. Files whose first byte is 'X' cannot be shown.
 class FakeProvider : public browser::ThumbnailProvider {
 public:
-    std::optional<icon::IconBitmap> decode(std::span<const std::uint8_t> bytes,
-                                           int size) const override {
+    std::optional<browser::CellPicture> decode(std::span<const std::uint8_t> bytes,
+                                               int side) const override {
         ++decoded;
         if (bytes.empty() || bytes[0] == 'X')
             return std::nullopt;
-        icon::IconBitmap bitmap{icon::Frame(size, size, icon::rgb(bytes[0], 0, 0)),
-                                icon::Frame(size, size, icon::kBlack)};
-        return bitmap;
+        browser::CellPicture picture;
+        picture.side = side;
+        picture.pixels.assign(static_cast<std::size_t>(side) * side,
+                              0xFF000000u | (std::uint32_t{bytes[0]} << 16));
+        return picture;
     }
     mutable int decoded = 0;
 };

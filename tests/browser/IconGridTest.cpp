@@ -211,10 +211,44 @@ TEST_F(IconGridTest, APageDecodesOnlyItsVisibleCellsAndKeepsThem) {
     const browser::Thumbnail* centre = m_grid.cell(24);
     ASSERT_NE(centre, nullptr);
     EXPECT_EQ(centre->state, browser::Thumbnail::State::Icon);
-    EXPECT_EQ(centre->bitmap.width(), 32);
+    EXPECT_EQ(centre->picture.side, 32);
     m_grid.switchView();
     ASSERT_TRUE(m_grid.loadPage());
-    EXPECT_EQ(m_grid.cell(12)->bitmap.width(), 48);
+    EXPECT_EQ(m_grid.cell(12)->picture.side, 48);
+    m_grid.setDeviceScale(2.0); // a screen at twice the scale: cells decoded at 96 pixels
+    ASSERT_TRUE(m_grid.loadPage());
+    EXPECT_EQ(m_grid.cell(12)->picture.side, 96);
+}
+
+TEST_F(IconGridTest, PagingThroughALargeFolderKeepsTheCacheWithinItsBudget) {
+    // A budget below two pages is raised to two pages: the page shown always stays whole.
+    IconGrid grid(m_provider, 1);
+    grid.openFolder(folder(1000));
+    for (int page = 0; page < 30; ++page) {
+        ASSERT_TRUE(grid.loadPage());
+        for (int k = 0; k < 49; ++k) {
+            if (grid.entryOfCell(k)) {
+                ASSERT_NE(grid.cell(k), nullptr) << "page " << page << " cell " << k;
+            }
+        }
+        grid.pageNext();
+    }
+    const int decoded = m_provider.decoded;
+    grid.pagePrevious(); // the page before is still held
+    ASSERT_TRUE(grid.loadPage());
+    EXPECT_EQ(m_provider.decoded, decoded);
+    grid.first(); // long gone
+    ASSERT_TRUE(grid.loadPage());
+    EXPECT_EQ(m_provider.decoded, decoded + 25);
+}
+
+TEST_F(IconGridTest, CentreOnFindsAFileOfTheList) {
+    const QString path = folder(100);
+    m_grid.openFolder(path);
+    EXPECT_TRUE(m_grid.centreOn(QDir(path).filePath(QStringLiteral("icon0077.ico")).toStdString()));
+    EXPECT_EQ(m_grid.current(), 77);
+    EXPECT_FALSE(m_grid.centreOn("/nowhere/icon0003.ico"));
+    EXPECT_EQ(m_grid.current(), 77);
 }
 
 TEST_F(IconGridTest, AFileRemovedBehindTheProgramsBackStopsTheDisplay) {

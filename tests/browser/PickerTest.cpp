@@ -181,10 +181,14 @@ TEST(PickerState, TextsAndTheIconTaken) {
 TEST(BmpExport, ThePictureIsTheIconAtTheViewSizeOverItsBackground) {
     browser::Thumbnail thumbnail;
     thumbnail.state = browser::Thumbnail::State::Icon;
-    thumbnail.bitmap.image = icon::Frame(48, 48, 0x0000FF);
-    thumbnail.bitmap.mask = icon::Frame(48, 48, icon::kBlack);
-    thumbnail.bitmap.mask.set(0, 0, icon::kWhite);
-    thumbnail.bitmap.image.set(0, 0, icon::kBlack);
+    icon::IconBitmap bitmap{icon::Frame(96, 96, 0x0000FF), icon::Frame(96, 96, icon::kBlack)};
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 2; ++x) {
+            bitmap.mask.set(x, y, icon::kWhite);
+            bitmap.image.set(x, y, icon::kBlack);
+        }
+    // Decoded for a screen at twice the scale: the file still gets the view's size.
+    thumbnail.picture = browser::fromBitmap(bitmap);
     const icon::Frame picture = browser::BmpExport::picture(&thumbnail, 48, icon::Colour{0x336699});
     EXPECT_EQ(picture.width(), 48);
     EXPECT_EQ(picture.at(0, 0), icon::Colour{0x336699}) << "the background shows through";

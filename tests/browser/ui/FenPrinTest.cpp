@@ -6,9 +6,13 @@
 #include "shell/AppState.h"
 #include "tests/support/Screenshot.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QFontMetrics>
 #include <QListWidget>
+#include <QMimeData>
+#include <QUrl>
 
 namespace {
 
@@ -97,6 +101,43 @@ TEST_F(FenPrinFixture, TheMoveButtonsWithTheirLeftAndRightButtons) {
         EXPECT_EQ(m_window->grid().current(), step.expected)
             << step.name << (step.right ? " right" : "");
     }
+}
+
+TEST_F(FenPrinFixture, GridKeysReachTheGridFromTheListsReturnTheEditor) {
+    const QString folder = iconFolder(100);
+    m_window->openFolder(folder);
+    std::filesystem::path edited;
+    m_window->setEditorLauncher([&](const std::filesystem::path& icon) { edited = icon; });
+    for (const char* list : {"Repertoire", "Lecteur"}) {
+        QWidget* focus = control(list);
+        focus->setFocus();
+        const int row =
+            m_window->findChild<QListWidget*>(QStringLiteral("Repertoire"))->currentRow();
+        QTest::keyClick(focus, Qt::Key_End);
+        EXPECT_EQ(m_window->grid().current(), 100) << list;
+        QTest::keyClick(focus, Qt::Key_Home);
+        QTest::keyClick(focus, Qt::Key_PageDown);
+        EXPECT_EQ(m_window->grid().current(), 43) << list;
+        EXPECT_EQ(m_window->findChild<QListWidget*>(QStringLiteral("Repertoire"))->currentRow(),
+                  row)
+            << "the folder list's highlight stays";
+    }
+    QTest::keyClick(control("Repertoire"), Qt::Key_Return);
+    EXPECT_EQ(edited, testsupport::pathOf(QDir(folder).filePath(QStringLiteral("icon0043.ico"))));
+}
+
+TEST_F(FenPrinFixture, AnIconDroppedShowsItsFolderCentredOnIt) {
+    m_window->openFolder(iconFolder(3));
+    const QString other = iconFolder(60);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QDir(other).filePath(QStringLiteral("icon0050.ico")))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &drop);
+    EXPECT_EQ(m_window->grid().count(), 60);
+    EXPECT_EQ(m_window->grid().current(), 50);
 }
 
 TEST_F(FenPrinFixture, AClickOnACellCentresItsIcon) {
@@ -224,13 +265,15 @@ TEST_F(RealIconsFenPrin, ShowsRealIconsAt32And48) {
     for (int k = 0; k < 49; ++k)
         drawn += fond->cellImage(k).isNull() ? 0 : 1;
     EXPECT_GT(drawn, 40) << "the reader shows nearly every cell";
-    EXPECT_EQ(fond->cellImage(0).size(), QSize(32, 32));
+    // Cells are decoded at the screen's own pixels (QT_SCALE_FACTOR=2: 64 for a 32 cell).
+    const double scale = m_window->devicePixelRatioF();
+    EXPECT_EQ(fond->cellImage(0).size(), QSize(32, 32) * scale);
     testsupport::saveScreenshot(*m_window, QStringLiteral("FenPrin-32"));
 
     click("CmdIco48");
     click("DeplaceHaut");
     auto* fond48 = m_window->findChild<browser::ui::IconGridView*>(QStringLiteral("Fond48"));
-    EXPECT_EQ(fond48->cellImage(0).size(), QSize(48, 48));
+    EXPECT_EQ(fond48->cellImage(0).size(), QSize(48, 48) * scale);
     testsupport::saveScreenshot(*m_window, QStringLiteral("FenPrin-48"));
 }
 
