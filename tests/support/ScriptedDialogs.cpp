@@ -41,14 +41,26 @@ std::optional<ScriptedDialogs::Step> ScriptedDialogs::take(Asked asked) {
     return step;
 }
 
+namespace {
+Asked askedOf(Asked::Kind kind, const QString& title = {}, const QString& text = {}) {
+    Asked asked;
+    asked.kind = kind;
+    asked.title = title;
+    asked.text = text;
+    return asked;
+}
+} // namespace
+
 Answer ScriptedDialogs::message(const Message& message) {
-    const Asked asked{Asked::Kind::Message, message.title,   message.text,
-                      message.icon,         message.buttons, message.defaultButton};
+    Asked asked = askedOf(Asked::Kind::Message, message.title, message.text);
+    asked.icon = message.icon;
+    asked.buttons = message.buttons;
+    asked.defaultButton = message.defaultButton;
     return answerOf<Answer>(take(asked)).value_or(defaultAnswer(message));
 }
 
 std::optional<FileChoice> ScriptedDialogs::file(Asked::Kind kind, const FileRequest& request) {
-    Asked asked{kind, request.title};
+    Asked asked = askedOf(kind, request.title);
     asked.file = request;
     return answerOf<FileChoice>(take(asked));
 }
@@ -62,18 +74,18 @@ std::optional<FileChoice> ScriptedDialogs::saveFile(const FileRequest& request) 
 }
 
 std::optional<QString> ScriptedDialogs::chooseFolder(const QString& title, const QString& start) {
-    const auto folder = answerOf<FolderAnswer>(take({Asked::Kind::Folder, title, start}));
+    const auto folder = answerOf<FolderAnswer>(take(askedOf(Asked::Kind::Folder, title, start)));
     return folder ? std::optional<QString>(folder->path) : std::nullopt;
 }
 
 std::optional<icon::Colour> ScriptedDialogs::chooseColour(icon::Colour initial) {
-    Asked asked{Asked::Kind::Colour};
+    Asked asked = askedOf(Asked::Kind::Colour);
     asked.colour = initial;
     return answerOf<icon::Colour>(take(asked));
 }
 
 QString ScriptedDialogs::runModal(QDialog& window) {
-    const auto script = answerOf<ModalScript>(take({Asked::Kind::Modal, window.objectName()}));
+    const auto script = answerOf<ModalScript>(take(askedOf(Asked::Kind::Modal, window.objectName())));
     window.setResult(QDialog::Rejected);
     window.show();
     QCoreApplication::processEvents();
