@@ -10,6 +10,7 @@ packages=(
     clang libclang-rt-14-dev
     xvfb xauth xdotool imagemagick dbus-daemon
     libcanberra-dev fonts-dejavu-core
+    libspng-dev icoutils
 )
 
 missing=()

@@ -1,6 +1,7 @@
 #include "browser/ui/IconGridView.h"
 
 #include "browser/ui/CentrePicture.h"
+#include "iconqt/FrameImage.h"
 #include "platform/WindowStyle.h"
 
 #include <QMouseEvent>
@@ -11,7 +12,7 @@ namespace browser::ui {
 QImage thumbnailImage(const Thumbnail& thumbnail, icon::Colour background) {
     if (thumbnail.state != Thumbnail::State::Icon)
         return {};
-    return icon::composeOver(thumbnail.bitmap, background).toImage();
+    return iconqt::toImage(icon::composeOver(thumbnail.bitmap, background));
 }
 
 IconGridView::IconGridView(const IconGrid& grid, GridView view, QWidget* parent)
