@@ -60,10 +60,10 @@ int runExtract(const Arguments& args, Console& console) {
                                           std::to_string(icon::kMaxIcoBytesPerFile / (1024 * 1024)) +
                                           " Mo permis : rien n'a été écrit.");
     const std::string stem = stemOf(path);
-    // One file asked for is flushed to the disk like any save; a whole batch is left to the
-    // system's cache, each file still written whole before it replaces anything.
+    // One icon asked for is flushed to the disk like any save; all the icons of a file are left
+    // to the system's cache, each file still written whole before it replaces anything.
     const icon::Durability durability =
-        first == last ? icon::Durability::Flushed : icon::Durability::Cached;
+        index.number ? icon::Durability::Flushed : icon::Durability::Cached;
     int written = 0;
     for (int n = first; n <= last; ++n) {
         const icon::IcoView ico = source->ico(n);
