@@ -106,7 +106,7 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, in
     const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
     if (!png)
         return std::nullopt;
-    const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context(spng_ctx_new(0), spng_ctx_free);
+    const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context(spng_ctx_new(SPNG_CTX_IGNORE_ADLER32), spng_ctx_free);
     if (!context || spng_set_png_buffer(context.get(), png->data(), png->size()) != 0 ||
         spng_set_image_limits(context.get(), kMaxPngSide, kMaxPngSide) != 0)
         return std::nullopt;
