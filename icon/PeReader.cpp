@@ -233,6 +233,7 @@ std::optional<std::vector<IconResource>> readPeIcons(std::span<const std::uint8_
     if (names.size() > kMaxIconsInFile)
         return std::nullopt;
     std::size_t entryBudget = kMaxGroupEntriesInFile;
+    icons.reserve(names.size());
     for (const DirEntry& entry : names) {
         if (entry.target == groups->target || entry.target == 0)
             continue; // a directory naming itself or the root: a loop, not a group
