@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QImageReader>
 
@@ -22,7 +23,7 @@ std::vector<QByteArray> loadIcons() {
     std::vector<QByteArray> files;
     const QDir dir(QStringLiteral(ORVANNE_TESTDATA "/ico/valid"));
     for (const QString& name : dir.entryList(QDir::Files, QDir::Name))
-        if (const auto bytes = icon::readFileBytes(dir.filePath(name)))
+        if (const auto bytes = icon::readFileBytes(QFile::encodeName(dir.filePath(name)).toStdString()))
             files.emplace_back(reinterpret_cast<const char*>(bytes->data()),
                                static_cast<qsizetype>(bytes->size()));
     return files;

@@ -4,7 +4,7 @@
 // Without a file, the largest PE file of the shared test data. --all takes every PE file there.
 // Three timings a round, each the median over the rounds:
 //   - this program's readers in the process: read the file, find the groups, write the files;
-//   - orvanne-icons extract, a process of its own (Qt's start-up included);
+//   - orvanne-icons extract, a process of its own (its start-up included);
 //   - wrestool -x -t 14, a process of its own.
 // wrestool writes, after the last image of each file, as many bytes as the group's directory
 // takes in the executable, left uninitialised; the comparison checks that tail's length and
@@ -58,7 +58,7 @@ bool runProcess(const std::vector<std::string>& words) {
 
 // The work wrestool does, with this program's readers: one .ico file per icon group.
 int extractInProcess(const QString& path, const QString& folder) {
-    const std::optional<icon::IconSource> source = icon::IconSource::open(path);
+    const std::optional<icon::IconSource> source = icon::IconSource::open(QFile::encodeName(path).toStdString());
     if (!source)
         return 0;
     const QString stem = QFileInfo(path).completeBaseName();

@@ -7,17 +7,16 @@
 #include "icon/SafeSave.h"
 #include "tests/icon/PeFiles.h"
 
-#include <QString>
-
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 int main(int argc, char** argv) {
     if (argc != 3) {
         std::fprintf(stderr, "usage : make_big_inputs DOSSIER TAILLE_MO\n");
         return 2;
     }
-    const QString folder = QString::fromLocal8Bit(argv[1]);
+    const std::string folder = argv[1];
     const std::size_t size = std::strtoull(argv[2], nullptr, 10) * 1024 * 1024;
 
     const icon::IconFileBytes ico = icon::encodeIconFile(icon::IconPlanes::blank());

@@ -1,6 +1,7 @@
 #include "browser/IconGrid.h"
 
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 
 #include <QFile>
 
@@ -49,7 +50,7 @@ ScanResult IconGrid::openFolder(const std::filesystem::path& folder) {
 }
 
 ScanResult IconGrid::openFolder(const QString& folder) {
-    return list(icon::pathFromText(folder), false);
+    return list(iconqt::pathFromText(folder), false);
 }
 
 ScanResult IconGrid::refresh() {

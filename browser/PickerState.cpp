@@ -56,7 +56,7 @@ QString noIconText(const QString& name) {
 }
 
 std::optional<PickerCells> openIcons(const std::filesystem::path& file) {
-    std::optional<icon::IconSource> source = icon::IconSource::open(shown(file));
+    std::optional<icon::IconSource> source = icon::IconSource::open(file);
     if (!source || source->count() == 0)
         return std::nullopt;
     return PickerCells(std::move(*source));

@@ -1,48 +1,55 @@
 #include "cli/Arguments.h"
 
+#include <algorithm>
+
 namespace cli {
 
-std::optional<Arguments> Arguments::parse(const QStringList& words, const QStringList& valueOptions,
-                                          QString& error) {
+std::optional<Arguments> Arguments::parse(const std::vector<std::string>& words,
+                                          const std::vector<std::string>& valueOptions,
+                                          std::string& error) {
     Arguments args;
     bool onlyPositional = false;
-    for (int i = 0; i < words.size(); ++i) {
-        const QString& word = words[i];
-        if (onlyPositional || !word.startsWith(QLatin1String("--"))) {
-            args.m_positional << word;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string& word = words[i];
+        if (onlyPositional || !word.starts_with("--")) {
+            args.m_positional.push_back(word);
             continue;
         }
-        if (word == QLatin1String("--")) { // what follows is a file name, even "--x"
+        if (word == "--") { // what follows is a file name, even "--x"
             onlyPositional = true;
             continue;
         }
-        QString name = word;
-        std::optional<QString> value;
-        if (const qsizetype eq = word.indexOf(QLatin1Char('=')); eq > 0) {
-            name = word.left(eq);
-            value = word.mid(eq + 1);
+        std::string name = word;
+        std::optional<std::string> value;
+        if (const std::size_t eq = word.find('='); eq != std::string::npos && eq > 0) {
+            name = word.substr(0, eq);
+            value = word.substr(eq + 1);
         }
-        if (!valueOptions.contains(name)) {
-            error = QStringLiteral("option inconnue « %1 ».").arg(name);
+        if (std::find(valueOptions.begin(), valueOptions.end(), name) == valueOptions.end()) {
+            error = "option inconnue « " + name + " ».";
             return std::nullopt;
         }
         if (!value) {
             if (i + 1 >= words.size()) {
-                error = QStringLiteral("il manque la valeur de l'option « %1 ».").arg(name);
+                error = "il manque la valeur de l'option « " + name + " ».";
                 return std::nullopt;
             }
             value = words[++i];
         }
-        args.m_options.insert(name, *value);
+        args.m_options.insert_or_assign(name, *value);
     }
     return args;
 }
 
-std::optional<QString> Arguments::option(const QString& name) const {
+std::string Arguments::at(std::size_t i) const {
+    return i < m_positional.size() ? m_positional[i] : std::string();
+}
+
+std::optional<std::string> Arguments::option(const std::string& name) const {
     const auto it = m_options.find(name);
     if (it == m_options.end())
         return std::nullopt;
-    return *it;
+    return it->second;
 }
 
 } // namespace cli

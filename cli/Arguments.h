@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QMap>
-#include <QString>
-#include <QStringList>
-
+#include <map>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace cli {
 
@@ -13,16 +12,18 @@ namespace cli {
 class Arguments {
 public:
     // Nothing, with a French sentence in `error`, when an option is unknown or lacks its value.
-    static std::optional<Arguments> parse(const QStringList& words, const QStringList& valueOptions,
-                                          QString& error);
+    static std::optional<Arguments> parse(const std::vector<std::string>& words,
+                                          const std::vector<std::string>& valueOptions,
+                                          std::string& error);
 
-    const QStringList& positional() const { return m_positional; }
-    QString at(int i) const { return m_positional.value(i); }
-    std::optional<QString> option(const QString& name) const;
+    const std::vector<std::string>& positional() const { return m_positional; }
+    // Positional argument i; empty when there is none.
+    std::string at(std::size_t i) const;
+    std::optional<std::string> option(const std::string& name) const;
 
 private:
-    QStringList m_positional;
-    QMap<QString, QString> m_options;
+    std::vector<std::string> m_positional;
+    std::map<std::string, std::string> m_options;
 };
 
 } // namespace cli

@@ -3,7 +3,8 @@
 #include "cli/Arguments.h"
 #include "cli/Console.h"
 
-#include <QStringList>
+#include <string>
+#include <vector>
 
 namespace cli {
 
@@ -13,9 +14,9 @@ struct Command {
     const char* name;
     const char* synopsis; // the usage line after the program's name, French words
     const char* summary;  // what it does, in French
-    QStringList valueOptions;
-    int minPositional;
-    int maxPositional;
+    std::vector<std::string> valueOptions;
+    std::size_t minPositional;
+    std::size_t maxPositional;
     int (*run)(const Arguments& args, Console& console);
 };
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QString>
-#include <QTextStream>
+#include <ostream>
+#include <string>
+#include <string_view>
 
 namespace cli {
 
@@ -16,17 +17,20 @@ enum ExitCode : int {
 // in UTF-8, each complaint one line prefixed with the program's name.
 class Console {
 public:
-    Console();
-
-    QTextStream& out() { return m_out; }
+    std::ostream& out();
     // Prints "orvanne-icons : <message>" on standard error and gives `code` back.
-    int fail(int code, const QString& message);
+    int fail(int code, std::string_view message);
     // Prints "orvanne-icons : attention : <message>" on standard error; the command goes on.
-    void warn(const QString& message);
-
-private:
-    QTextStream m_out;
-    QTextStream m_err;
+    void warn(std::string_view message);
 };
+
+// The characters of UTF-8 text as columns have always been counted: one per character, two
+// beyond U+FFFF.
+int columns(std::string_view text);
+
+// Text laid out in a column of `width` characters: right-aligned, or left-aligned when width is
+// negative. Characters are counted as the screen shows them, not as bytes.
+std::string padded(std::string_view text, int width);
+std::string padded(long long number, int width);
 
 } // namespace cli

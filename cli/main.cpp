@@ -1,9 +1,10 @@
 // orvanne-icons: the icon conversions of Orvanne, for scripts.
 #include "cli/Command.h"
 
-#include <QCoreApplication>
-
 #include <array>
+#include <iostream>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -21,7 +22,7 @@ const std::array kCommands{
             "to-ico ENTRÉE SORTIE [--index N]",
             "Ouvre l'icône N (1 par défaut) de ENTRÉE comme l'éditeur d'icônes et l'enregistre "
             "comme lui dans SORTIE (32×32, 24 bits, 3262 octets).",
-            {QStringLiteral("--index")},
+            {"--index"},
             2,
             2,
             cli::runToIco},
@@ -29,7 +30,7 @@ const std::array kCommands{
             "to-bmp ENTRÉE SORTIE [--size 32|48] [--background RRGGBB]",
             "Écrit l'icône telle que le navigateur la montre, sur son fond (00D2D2 par défaut), "
             "dans un fichier BMP 24 bits.",
-            {QStringLiteral("--size"), QStringLiteral("--background")},
+            {"--size", "--background"},
             2,
             2,
             cli::runToBmp},
@@ -45,13 +46,13 @@ const std::array kCommands{
             "extract FICHIER DOSSIER [--index N]",
             "Écrit chaque icône du fichier (ou l'icône N) dans DOSSIER, en fichier ICO complet "
             "nommé d'après le fichier et le numéro de l'icône.",
-            {QStringLiteral("--index")},
+            {"--index"},
             2,
             2,
             cli::runExtract},
 };
 
-void printUsage(QTextStream& out) {
+void printUsage(std::ostream& out) {
     out << "Usage : orvanne-icons COMMANDE ARGUMENTS...\n"
            "        orvanne-icons --help | --version\n\nCommandes :\n";
     for (const Command& c : kCommands)
@@ -63,36 +64,32 @@ void printUsage(QTextStream& out) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    const QStringList words = QCoreApplication::arguments().mid(1);
+    const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
     cli::Console console;
-    const QString hint = QStringLiteral(" Voir « orvanne-icons --help ».");
-    if (words.isEmpty())
-        return console.fail(cli::kUsage, QStringLiteral("il manque la commande.") + hint);
-    if (words[0] == QLatin1String("--help") || words[0] == QLatin1String("-h")) {
+    const std::string hint = " Voir « orvanne-icons --help ».";
+    if (words.empty())
+        return console.fail(cli::kUsage, "il manque la commande." + hint);
+    if (words[0] == "--help" || words[0] == "-h") {
         printUsage(console.out());
         return cli::kSuccess;
     }
-    if (words[0] == QLatin1String("--version")) {
+    if (words[0] == "--version") {
         console.out() << "orvanne-icons " ORVANNE_VERSION "\n";
         return cli::kSuccess;
     }
     for (const Command& c : kCommands) {
-        if (words[0] != QLatin1String(c.name))
+        if (words[0] != c.name)
             continue;
-        const QString usage =
-            QStringLiteral(" Usage : orvanne-icons %1").arg(QString::fromUtf8(c.synopsis));
-        QString error;
-        const std::optional<cli::Arguments> args =
-            cli::Arguments::parse(words.mid(1), c.valueOptions, error);
+        const std::string usage = std::string(" Usage : orvanne-icons ") + c.synopsis;
+        std::string error;
+        const std::optional<cli::Arguments> args = cli::Arguments::parse(
+            std::vector<std::string>(words.begin() + 1, words.end()), c.valueOptions, error);
         if (!args)
             return console.fail(cli::kUsage, error + usage);
-        const auto count = args->positional().size();
+        const std::size_t count = args->positional().size();
         if (count < c.minPositional || count > c.maxPositional)
-            return console.fail(cli::kUsage,
-                                QStringLiteral("nombre d'arguments incorrect.") + usage);
+            return console.fail(cli::kUsage, "nombre d'arguments incorrect." + usage);
         return c.run(*args, console);
     }
-    return console.fail(cli::kUsage,
-                        QStringLiteral("commande inconnue « %1 ».").arg(words[0]) + hint);
+    return console.fail(cli::kUsage, "commande inconnue « " + words[0] + " »." + hint);
 }

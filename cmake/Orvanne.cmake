@@ -1,14 +1,20 @@
 # Helpers shared by the folders' CMakeLists.
 
-# orvanne_core(NAME SOURCES... [LINKS targets...])
-# A core library: pixel logic, formats and rules. It may link Qt6::Core and Qt6::Gui, never widgets.
+# orvanne_core(NAME [PLAIN] SOURCES... [LINKS targets...])
+# A core library: pixel logic, formats and rules. It may link Qt6::Core and Qt6::Gui, never
+# widgets; a PLAIN core links no Qt at all.
 function(orvanne_core name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "PLAIN" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
-    target_link_libraries(${name} PUBLIC Qt6::Core Qt6::Gui ${ARG_LINKS})
+    if(ARG_PLAIN)
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    else()
+        target_link_libraries(${name} PUBLIC Qt6::Core Qt6::Gui)
+    endif()
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS})
     foreach(lib IN LISTS ARG_LINKS)
-        if(lib MATCHES "Widgets")
+        if(lib MATCHES "Widgets" OR (ARG_PLAIN AND lib MATCHES "^Qt"))
             message(FATAL_ERROR "${name} is a core and may not link ${lib}")
         endif()
     endforeach()

@@ -3,6 +3,7 @@
 #include "icon/FileBytes.h"
 #include "icon/IcoReader.h"
 #include "icon/IcoWriter.h"
+#include "iconqt/Paths.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -89,7 +90,7 @@ bool Document::OpenIcon() {
         title = fileTitleOf(path);
     }
     if (file.empty())
-        file = icon::pathFromText(path);
+        file = iconqt::pathFromText(path);
     const auto bytes = icon::readFileBytes(file);
     if (!bytes || !icon::isLoadablePicture(*bytes))
         return false;
@@ -128,7 +129,7 @@ bool Document::SaveIcon(SaveMode mode) {
     QString path = *chosen;
     if (QFileInfo(path).suffix().isEmpty())
         path += QStringLiteral(".ico");
-    return write(icon::pathFromText(path));
+    return write(iconqt::pathFromText(path));
 }
 
 bool Document::write(const std::filesystem::path& file) {
@@ -140,7 +141,7 @@ bool Document::write(const std::filesystem::path& file) {
     // the Modified state stay as they were, and the old file is untouched.
     if (!result)
         return false;
-    const QString path = file == m_iconFile ? m_iconPath : icon::textFromPath(file);
+    const QString path = file == m_iconFile ? m_iconPath : iconqt::textFromPath(file);
     m_iconPath = path;
     m_iconFile = file;
     m_iconFileTitle = m_shownTitle = fileTitleOf(path);
@@ -172,7 +173,7 @@ bool Document::recall() {
 }
 
 void Document::handOver(const std::filesystem::path& file, OpenRequest who) {
-    m_handedPath = icon::textFromPath(file);
+    m_handedPath = iconqt::textFromPath(file);
     m_handedFile = file;
     m_requests.set(static_cast<std::size_t>(who));
 }

@@ -1,6 +1,7 @@
 #include "editor/PasteSizing.h"
 
 #include "effects/Rounding.h"
+#include "iconqt/FrameImage.h"
 
 namespace editor {
 
@@ -69,7 +70,7 @@ IconBitmap pictureToBlock(const QImage& picture, QSize size, bool opaque) {
 }
 
 QImage blockToPicture(const IconBitmap& block) {
-    return icon::composeOver(block, kPasteBackground).toImage();
+    return iconqt::toImage(icon::composeOver(block, kPasteBackground));
 }
 
 } // namespace editor

@@ -8,16 +8,12 @@
 #include "icon/IcoReader.h"
 #include "icon/IconSource.h"
 
-#include <QtGlobal>
-
 #include <cstdlib>
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace fuzzcheck {
-
-inline void quiet(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 // Assembling is checked on every icon of an input until this many bytes were assembled: enough
 // for thousands of small icons, while an input naming one large image many times still ends fast.

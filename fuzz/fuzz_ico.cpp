@@ -3,22 +3,8 @@
 #include "icon/IcoReader.h"
 #include "icon/IcoWriter.h"
 
-#include <QtGlobal>
-
 #include <cstdlib>
 #include <span>
-
-namespace {
-
-void quiet(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-} // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    // Qt's PNG reader complains about every broken image; the fuzzer does not need to hear it.
-    qInstallMessageHandler(quiet);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::span<const std::uint8_t> bytes(data, size);

@@ -2,11 +2,6 @@
 #include "fuzz/ContainerCheck.h"
 #include "icon/NeReader.h"
 
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    qInstallMessageHandler(fuzzcheck::quiet);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::span<const std::uint8_t> bytes(data, size);
     fuzzcheck::checkIcons(bytes, icon::readNeIcons(bytes));

@@ -240,6 +240,9 @@ std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int f
     const std::size_t maskStart = l.pixelOffset + l.rowBytes * height;
     IconBitmap out{Frame(static_cast<int>(outWidth), static_cast<int>(outHeight), kBlack),
                    Frame(static_cast<int>(outWidth), static_cast<int>(outHeight), kWhite)};
+    std::vector<std::size_t> sourceColumn(outWidth);
+    for (std::size_t x = 0; x < outWidth; ++x)
+        sourceColumn[x] = x * width / outWidth;
     std::size_t decodedRow = height; // none yet
     for (std::size_t y = 0; y < outHeight; ++y) {
         const std::size_t sy = y * height / outHeight;
@@ -252,7 +255,7 @@ std::optional<IconBitmap> decodeIconDib(std::span<const std::uint8_t> dib, int f
         const std::span<const std::uint8_t> maskRow =
             reader.sliceClamped(maskStart + source * l.maskRowBytes, l.maskRowBytes);
         for (std::size_t x = 0; x < outWidth; ++x) {
-            const std::size_t sx = x * width / outWidth;
+            const std::size_t sx = sourceColumn[x];
             const int ox = static_cast<int>(x), oy = static_cast<int>(y);
             if (alphaDecides) {
                 // The mask is made from the alpha: what is see-through has no colour of its own.

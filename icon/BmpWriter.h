@@ -3,8 +3,6 @@
 #include "icon/Frame.h"
 #include "icon/SafeSave.h"
 
-#include <QString>
-
 #include <cstdint>
 #include <vector>
 
@@ -15,6 +13,6 @@ namespace icon {
 std::vector<std::uint8_t> encodeBmp24(const Frame& picture);
 
 // Writes the picture as a BMP file, replacing the target whole, the same safe way as icons.
-SaveResult writeBmpFile(const QString& path, const Frame& picture);
+SaveResult writeBmpFile(const std::filesystem::path& path, const Frame& picture);
 
 } // namespace icon

@@ -1,7 +1,5 @@
 #include "icon/FileBytes.h"
 
-#include <QFile>
-
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -68,11 +66,6 @@ std::optional<std::vector<std::uint8_t>> readFileBytes(const std::filesystem::pa
     return bytes;
 }
 
-std::optional<std::vector<std::uint8_t>> readFileBytes(const QString& path, std::size_t maxBytes,
-                                                       ReadError* error) {
-    return readFileBytes(pathFromText(path), maxBytes, error);
-}
-
 std::shared_ptr<const MappedFile> MappedFile::open(const std::filesystem::path& path,
                                                    std::size_t maxBytes, ReadError* error) {
     ReadError why = ReadError::None;
@@ -100,17 +93,6 @@ std::shared_ptr<const MappedFile> MappedFile::open(const std::filesystem::path& 
 MappedFile::~MappedFile() {
     if (m_data != nullptr)
         ::munmap(const_cast<std::uint8_t*>(m_data), m_size);
-}
-
-std::filesystem::path pathFromText(const QString& text) {
-    const QByteArray bytes = QFile::encodeName(text);
-    return std::filesystem::path(
-        std::string(bytes.constData(), static_cast<std::size_t>(bytes.size())));
-}
-
-QString textFromPath(const std::filesystem::path& path) {
-    const std::string& bytes = path.native();
-    return QFile::decodeName(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())));
 }
 
 } // namespace icon

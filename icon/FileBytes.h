@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -35,9 +33,6 @@ int openRegularFile(const std::filesystem::path& path, std::size_t maxBytes, std
 std::optional<std::vector<std::uint8_t>> readFileBytes(const std::filesystem::path& path,
                                                        std::size_t maxBytes = kMaxFileBytes,
                                                        ReadError* error = nullptr);
-std::optional<std::vector<std::uint8_t>> readFileBytes(const QString& path,
-                                                       std::size_t maxBytes = kMaxFileBytes,
-                                                       ReadError* error = nullptr);
 
 // A regular file mapped read-only: large inputs are looked at in place, the system bringing in
 // only the pages a reader touches, instead of being copied into memory.
@@ -60,10 +55,5 @@ private:
     const std::uint8_t* m_data = nullptr;
     std::size_t m_size = 0;
 };
-
-// A path as the file system holds it (bytes), from a name shown or typed in the interface.
-std::filesystem::path pathFromText(const QString& text);
-// A path as the interface shows it; names that are not valid text show replacement marks.
-QString textFromPath(const std::filesystem::path& path);
 
 } // namespace icon

@@ -22,29 +22,6 @@ void Frame::fillRect(int x, int y, int w, int h, Colour c) {
                     std::max(right - left, 0), c);
 }
 
-QImage Frame::toImage() const {
-    QImage image(m_width, m_height, QImage::Format_RGB32);
-    for (int y = 0; y < m_height; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < m_width; ++x) {
-            const Colour c = at(x, y);
-            line[x] = qRgb(redOf(c), greenOf(c), blueOf(c));
-        }
-    }
-    return image;
-}
-
-Frame Frame::fromImage(const QImage& source) {
-    const QImage image = source.convertToFormat(QImage::Format_RGB32);
-    Frame frame(image.width(), image.height());
-    for (int y = 0; y < frame.m_height; ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < frame.m_width; ++x)
-            frame.set(x, y, rgb(qRed(line[x]), qGreen(line[x]), qBlue(line[x])));
-    }
-    return frame;
-}
-
 Frame compose(const IconPlanes& icon, const Frame& background, int zoom) {
     assert(zoom > 0 && background.width() == kIconSize * zoom &&
            background.height() == kIconSize * zoom);

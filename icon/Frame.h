@@ -3,8 +3,6 @@
 #include "icon/Colour.h"
 #include "icon/IconPlanes.h"
 
-#include <QImage>
-
 #include <vector>
 
 namespace icon {
@@ -25,9 +23,9 @@ public:
     void fill(Colour c);
     void fillRect(int x, int y, int w, int h, Colour c); // clipped to the frame
 
-    // For painting and saving with Qt: opaque RGB32.
-    QImage toImage() const;
-    static Frame fromImage(const QImage& image);
+    // Row y, left to right: width() colours.
+    const Colour* row(int y) const { return m_pixels.data() + index(0, y); }
+    Colour* row(int y) { return m_pixels.data() + index(0, y); }
 
     bool operator==(const Frame&) const = default;
 

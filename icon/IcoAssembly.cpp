@@ -1,6 +1,7 @@
 #include "icon/IcoAssembly.h"
 
 #include "icon/ByteReader.h"
+#include "icon/ByteWriter.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,16 +12,6 @@ namespace {
 
 constexpr std::size_t kHeader = 6;
 constexpr std::size_t kEntry = 16;
-
-void put16(std::vector<std::uint8_t>& out, std::size_t at, std::uint32_t v) {
-    out[at] = static_cast<std::uint8_t>(v % 256);
-    out[at + 1] = static_cast<std::uint8_t>((v / 256) % 256);
-}
-
-void put32(std::vector<std::uint8_t>& out, std::size_t at, std::uint32_t v) {
-    put16(out, at, v % 65536);
-    put16(out, at + 2, v / 65536);
-}
 
 // The images that fit under the limit and the bytes they make with their directory.
 std::pair<std::size_t, std::size_t> groupLayout(const std::vector<GroupImage>& images) {
@@ -40,8 +31,8 @@ std::vector<std::uint8_t> assembleGroup(std::span<const std::uint8_t> file,
                                         const std::vector<GroupImage>& images) {
     const auto [kept, total] = groupLayout(images);
     std::vector<std::uint8_t> out(total, 0);
-    put16(out, 2, 1);
-    put16(out, 4, static_cast<std::uint32_t>(kept));
+    ByteWriter::at16(out, 2, 1);
+    ByteWriter::at16(out, 4, static_cast<std::uint32_t>(kept));
     std::size_t dataAt = kHeader + kept * kEntry;
     for (std::size_t i = 0; i < kept; ++i) {
         const GroupImage& image = images[i];
@@ -50,10 +41,10 @@ std::vector<std::uint8_t> assembleGroup(std::span<const std::uint8_t> file,
         out[e + 1] = image.height;
         out[e + 2] = image.colourCount;
         out[e + 3] = image.reserved;
-        put16(out, e + 4, image.planes);
-        put16(out, e + 6, image.bitCount);
-        put32(out, e + 8, static_cast<std::uint32_t>(image.size));
-        put32(out, e + 12, static_cast<std::uint32_t>(dataAt));
+        ByteWriter::at16(out, e + 4, image.planes);
+        ByteWriter::at16(out, e + 6, image.bitCount);
+        ByteWriter::at32(out, e + 8, static_cast<std::uint32_t>(image.size));
+        ByteWriter::at32(out, e + 12, static_cast<std::uint32_t>(dataAt));
         const std::span<const std::uint8_t> data = file.subspan(image.offset, image.size);
         std::copy(data.begin(), data.end(), out.begin() + static_cast<std::ptrdiff_t>(dataAt));
         dataAt += image.size;
@@ -96,11 +87,11 @@ std::vector<std::uint8_t> cursorAsIcon(std::span<const std::uint8_t> bytes) {
     const std::size_t count = r.u16(4);
     if (!r.contains(kHeader, count * kEntry))
         return out;
-    put16(out, 2, 1);
+    ByteWriter::at16(out, 2, 1);
     for (std::size_t i = 0; i < count; ++i) {
         const std::size_t e = kHeader + i * kEntry;
-        put16(out, e + 4, 1);
-        put16(out, e + 6, imageDepth(r, r.u32(e + 12)));
+        ByteWriter::at16(out, e + 4, 1);
+        ByteWriter::at16(out, e + 6, imageDepth(r, r.u32(e + 12)));
     }
     return out;
 }

@@ -2,11 +2,7 @@
 
 #include "icon/BmpDecoder.h"
 #include "icon/ByteReader.h"
-#include "icon/FileBytes.h"
 #include "icon/PngDecoder.h"
-
-#include <QByteArray>
-#include <QImage>
 
 #include <algorithm>
 #include <cstdlib>
@@ -181,14 +177,17 @@ std::optional<int> readHeaderCount(std::span<const std::uint8_t> bytes) {
 bool isLoadablePicture(std::span<const std::uint8_t> bytes) {
     if (decodeIcon(bytes, kIconSize))
         return true;
-    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                                    static_cast<qsizetype>(bytes.size()));
-    return !QImage::fromData(data).isNull();
-}
-
-bool isLoadablePicture(const QString& path) {
-    const std::optional<std::vector<std::uint8_t>> bytes = readFileBytes(path);
-    return bytes && isLoadablePicture(*bytes);
+    if (isPng(bytes))
+        return decodePngImage(bytes, 1, 1).has_value();
+    const ByteReader r(bytes);
+    const std::uint32_t dibHeader = r.u32(14);
+    const bool bmp = r.u8(0) == 'B' && r.u8(1) == 'M' && !r.failed() &&
+                     (dibHeader == 12 || dibHeader == 40 || dibHeader == 52 || dibHeader == 56 ||
+                      dibHeader == 108 || dibHeader == 124);
+    const bool jpeg = r.u8(0) == 0xFF && r.u8(1) == 0xD8 && r.u8(2) == 0xFF && !r.failed();
+    const bool gif = r.u32(0) == 0x38464947 && (r.u16(4) == 0x6137 || r.u16(4) == 0x6139) &&
+                     !r.failed(); // "GIF87a", "GIF89a"
+    return bmp || jpeg || gif;
 }
 
 } // namespace icon

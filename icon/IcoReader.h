@@ -3,8 +3,6 @@
 #include "icon/IconBitmap.h"
 #include "icon/IconPlanes.h"
 
-#include <QString>
-
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -83,8 +81,8 @@ std::optional<IconPlanes> decodeIconPlanes(std::span<const std::uint8_t> bytes);
 // (a count with bit 15 set reads negative, hence false). Nothing when there are not 6 bytes.
 std::optional<int> readHeaderCount(std::span<const std::uint8_t> bytes);
 
-// The editor's validity test: the file loads with this reader or with one of Qt's image readers.
-bool isLoadablePicture(const QString& path);
+// Whether the bytes are a picture: an icon this reader decodes, a PNG image it decodes, or a
+// file that starts as a BMP, JPEG or GIF picture does (those are not decoded here).
 bool isLoadablePicture(std::span<const std::uint8_t> bytes);
 
 } // namespace icon

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QString>
-
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace icon {
@@ -31,7 +30,7 @@ struct IconResource {
     enum class Form { Group, Embedded };
 
     Form form = Form::Group;
-    QString name; // the resource name; empty when the resource has a number or none
+    std::string name; // the resource name (UTF-8); empty when the resource has a number or none
     int id = -1;  // the resource number; -1 when named or none
     std::vector<GroupImage> images; // Group: in group order; images that do not exist are left out
     std::size_t offset = 0;         // Embedded: the ICO or CUR file's place in the container

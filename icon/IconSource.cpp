@@ -94,10 +94,6 @@ std::optional<IconSource> IconSource::open(const std::filesystem::path& path) {
     return fromFile(MappedFile::open(path));
 }
 
-std::optional<IconSource> IconSource::open(const QString& path) {
-    return open(pathFromText(path));
-}
-
 const IconResource* IconSource::resource(int n) const {
     if (n < 1 || n > count())
         return nullptr;
@@ -165,11 +161,11 @@ IconPlanes IconSource::planes(int n) const {
     return decodeIconPlanes(ico(n).bytes).value_or(IconPlanes::blank());
 }
 
-QString IconSource::resourceName(int n) const {
+std::string IconSource::resourceName(int n) const {
     const IconResource* icon = resource(n);
     if (!icon || (m_kind != Kind::Pe && m_kind != Kind::Ne))
         return {};
-    return icon->id >= 0 ? QString::number(icon->id) : icon->name;
+    return icon->id >= 0 ? std::to_string(icon->id) : icon->name;
 }
 
 } // namespace icon

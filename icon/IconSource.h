@@ -5,13 +5,12 @@
 #include "icon/IconPlanes.h"
 #include "icon/IconResource.h"
 
-#include <QString>
-
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace icon {
@@ -42,7 +41,6 @@ public:
     static std::optional<IconSource> fromFile(std::shared_ptr<const MappedFile> file);
     // As fromFile; nothing also when the file cannot be read.
     static std::optional<IconSource> open(const std::filesystem::path& path);
-    static std::optional<IconSource> open(const QString& path);
 
     Kind kind() const { return m_kind; }
     int count() const { return static_cast<int>(m_icons.size()); }
@@ -61,8 +59,8 @@ public:
     // Icon n at 32×32 as the editor takes an icon file. A group without a usable image, or a
     // number out of range, gives the blank (fully transparent) planes.
     IconPlanes planes(int n) const;
-    // Icon n's resource name, or its number as text; empty when the file has no resources.
-    QString resourceName(int n) const;
+    // Icon n's resource name (UTF-8), or its number as text; empty when the file has no resources.
+    std::string resourceName(int n) const;
     // How icon n was found in the file.
     const IconResource* resource(int n) const;
 

@@ -2,6 +2,7 @@
 
 #include "icon/ByteReader.h"
 #include "icon/IconGroup.h"
+#include "icon/Text.h"
 
 #include <algorithm>
 #include <map>
@@ -21,13 +22,10 @@ struct NeResource {
 };
 
 // A name of the resource table: a length byte and that many characters.
-QString tableName(const ByteReader& r, std::size_t at) {
+std::string tableName(const ByteReader& r, std::size_t at) {
     const std::size_t length = r.u8(at);
-    const std::span<const std::uint8_t> chars = r.sliceClamped(at + 1, length);
-    QString text;
-    for (std::uint8_t c : chars)
-        text.append(QChar(c)); // the ANSI code page of those days; Latin-1 is near enough
-    return text;
+    // The ANSI code page of those days; Latin-1 is near enough.
+    return utf8FromLatin1(r.sliceClamped(at + 1, length));
 }
 
 // Lengths are counted in alignment units, so the last resource may claim padding the file

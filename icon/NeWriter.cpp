@@ -1,7 +1,9 @@
 #include "icon/NeWriter.h"
 
 #include "icon/ByteReader.h"
+#include "icon/ByteWriter.h"
 #include "icon/NeReader.h"
+#include "icon/Text.h"
 
 #include <algorithm>
 
@@ -17,36 +19,13 @@ constexpr std::size_t kMaxResources = 0x7FFF;
 // A DOS program that ends at once with exit code 1: a library does not run under DOS.
 constexpr std::uint8_t kDosStub[] = {0xB8, 0x01, 0x4C, 0xCD, 0x21};
 
-class Out {
+// The writer, with Pascal strings: a length byte and the characters.
+class Out : public ByteWriter {
 public:
-    std::vector<std::uint8_t> bytes;
-
-    std::size_t size() const { return bytes.size(); }
-    void u8(std::uint32_t v) { bytes.push_back(static_cast<std::uint8_t>(v % 256)); }
-    void u16(std::uint32_t v) {
-        u8(v);
-        u8(v / 256);
-    }
-    void u32(std::uint32_t v) {
-        u16(v % 65536);
-        u16(v / 65536);
-    }
-    void at16(std::size_t at, std::uint32_t v) {
-        bytes[at] = static_cast<std::uint8_t>(v % 256);
-        bytes[at + 1] = static_cast<std::uint8_t>((v / 256) % 256);
-    }
-    void at32(std::size_t at, std::uint32_t v) {
-        at16(at, v % 65536);
-        at16(at + 2, v / 65536);
-    }
-    void pascal(const QByteArray& text) {
+    void pascal(const std::string& text) {
         u8(static_cast<std::uint32_t>(text.size()));
         bytes.insert(bytes.end(), text.begin(), text.end());
     }
-    void append(std::span<const std::uint8_t> data) {
-        bytes.insert(bytes.end(), data.begin(), data.end());
-    }
-    void padTo(std::size_t size) { bytes.resize(std::max(bytes.size(), size), 0); }
 };
 
 // One image of an ICO file, to become an RT_ICON resource.
@@ -72,24 +51,27 @@ std::optional<std::vector<Image>> icoImages(const std::vector<std::uint8_t>& ico
     return images;
 }
 
-std::optional<QByteArray> resourceName(const QString& name) {
-    const QByteArray upper = name.toUpper().toLatin1();
-    if (upper.isEmpty() || upper.size() > 255)
+std::optional<std::string> resourceName(const std::string& name) {
+    if (name.empty() || name.size() > 255)
         return std::nullopt;
-    for (char c : upper)
+    std::string upper = name;
+    for (char& c : upper) {
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
         if (!((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_'))
             return std::nullopt;
+    }
     return upper;
 }
 
 } // namespace
 
 std::optional<std::vector<std::uint8_t>> writeNeIconLibrary(const std::vector<LibraryIcon>& icons,
-                                                            const QString& moduleName,
-                                                            const QString& description) {
+                                                            const std::string& moduleName,
+                                                            const std::string& description) {
     // Gather every image and every name first: nothing is written for a bad input.
     std::vector<std::vector<Image>> groups;
-    std::vector<std::optional<QByteArray>> names;
+    std::vector<std::optional<std::string>> names;
     std::size_t imageCount = 0;
     for (const LibraryIcon& icon : icons) {
         std::optional<std::vector<Image>> images = icoImages(icon.ico);
@@ -97,16 +79,16 @@ std::optional<std::vector<std::uint8_t>> writeNeIconLibrary(const std::vector<Li
             return std::nullopt;
         imageCount += images->size();
         groups.push_back(std::move(*images));
-        if (icon.name.isEmpty()) {
+        if (icon.name.empty()) {
             names.emplace_back();
         } else {
-            std::optional<QByteArray> name = resourceName(icon.name);
+            std::optional<std::string> name = resourceName(icon.name);
             if (!name)
                 return std::nullopt;
             names.push_back(name);
         }
     }
-    const std::optional<QByteArray> module = resourceName(moduleName);
+    const std::optional<std::string> module = resourceName(moduleName);
     if (!module || groups.size() > kMaxResources || imageCount > kMaxResources)
         return std::nullopt;
 
@@ -186,7 +168,7 @@ std::optional<std::vector<std::uint8_t>> writeNeIconLibrary(const std::vector<Li
     const std::size_t entryTableEnd = out.size();
     // Non-resident names: the description, ordinal 0.
     const std::size_t nonResident = out.size();
-    const QByteArray text = description.toLatin1().left(255);
+    const std::string text = latin1FromUtf8(description).substr(0, 255);
     out.pascal(text);
     out.u16(0);
     out.u8(0);

@@ -2,6 +2,7 @@
 
 #include "icon/ByteReader.h"
 #include "icon/IconGroup.h"
+#include "icon/Text.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -85,13 +86,13 @@ public:
         return entries;
     }
 
-    QString name(std::uint32_t offset) const {
+    std::string name(std::uint32_t offset) const {
         const std::size_t at = m_root + offset;
         const std::size_t length = std::min<std::size_t>(m_r.u16(at), kMaxNameChars);
-        QString text;
+        std::u16string text;
         for (std::size_t i = 0; i < length && m_r.contains(at + 2 + 2 * i, 2); ++i)
-            text.append(QChar(m_r.u16(at + 2 + 2 * i)));
-        return text;
+            text += static_cast<char16_t>(m_r.u16(at + 2 + 2 * i));
+        return utf8FromUtf16(text);
     }
 
     // The data of a data entry (rva, size, code page, reserved).
@@ -232,6 +233,7 @@ std::optional<std::vector<IconResource>> readPeIcons(std::span<const std::uint8_
     if (names.size() > kMaxIconsInFile)
         return std::nullopt;
     std::size_t entryBudget = kMaxGroupEntriesInFile;
+    icons.reserve(names.size());
     for (const DirEntry& entry : names) {
         if (entry.target == groups->target || entry.target == 0)
             continue; // a directory naming itself or the root: a loop, not a group

@@ -3,10 +3,11 @@
 #include "icon/ByteReader.h"
 #include "icon/IcoReader.h"
 
-#include <QByteArray>
-#include <QImage>
+#include <spng.h>
 
 #include <array>
+#include <cstring>
+#include <memory>
 #include <vector>
 
 namespace icon {
@@ -45,9 +46,9 @@ bool chunkIs(std::span<const std::uint8_t> type, const char* name) {
 }
 
 // The PNG rebuilt from the chunks that make its pixels (IHDR, PLTE, tRNS, IDAT, IEND), each
-// checked to lie whole inside the bytes. Text, colour profiles and private chunks are left out:
-// Qt's reader would only read them, and a damaged length there makes libpng reserve memory for
-// data that is not in the file. Nothing when a chunk runs past the end or IEND is missing.
+// checked to lie whole inside the bytes. Text, gamma, colour profiles and private chunks are left
+// out: the pixels are taken as stored, and a damaged length there must not make the decoder
+// reserve memory for data that is not in the file. Nothing when a chunk runs past the end or IEND is missing.
 std::optional<std::vector<std::uint8_t>> essentialChunks(std::span<const std::uint8_t> bytes) {
     const ByteReader reader(bytes);
     std::vector<std::uint8_t> out(kSignature.begin(), kSignature.end());
@@ -105,33 +106,47 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, in
     const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
     if (!png)
         return std::nullopt;
-    const QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(png->data()),
-                                                    static_cast<qsizetype>(png->size()));
-    QImage image;
-    if (!image.loadFromData(data, "PNG") || image.width() != header->width ||
-        image.height() != header->height)
+    const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context(spng_ctx_new(SPNG_CTX_IGNORE_ADLER32), spng_ctx_free);
+    if (!context || spng_set_png_buffer(context.get(), png->data(), png->size()) != 0 ||
+        spng_set_image_limits(context.get(), kMaxPngSide, kMaxPngSide) != 0)
         return std::nullopt;
-    const int width = outputWidth > 0 ? outputWidth : image.width();
-    const int height = outputHeight > 0 ? outputHeight : image.height();
-    // Straight 32-bit pixels are read in place; other formats (palette, grey, 16 bits) are
-    // converted whole when every pixel is kept, read one by one when most are dropped.
-    const bool direct =
-        image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32;
-    if (!direct && width * height >= image.width() * image.height() / 4)
-        image = image.convertToFormat(QImage::Format_ARGB32);
-    const bool converted =
-        image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32;
+    spng_ihdr ihdr{};
+    if (spng_get_ihdr(context.get(), &ihdr) != 0 || ihdr.width != std::uint32_t(header->width) ||
+        ihdr.height != std::uint32_t(header->height))
+        return std::nullopt;
+    // Sixteen-bit channels are rounded to eight (v / 257), not cut.
+    const bool wide = ihdr.bit_depth == 16;
+    const int format = wide ? SPNG_FMT_RGBA16 : SPNG_FMT_RGBA8;
+    std::size_t size = 0;
+    if (spng_decoded_image_size(context.get(), format, &size) != 0)
+        return std::nullopt;
+    std::vector<std::uint8_t> pixels(size);
+    if (spng_decode_image(context.get(), pixels.data(), pixels.size(), format, SPNG_DECODE_TRNS) !=
+        0)
+        return std::nullopt;
 
+    const int sourceWidth = header->width;
+    const int sourceHeight = header->height;
+    const int width = outputWidth > 0 ? outputWidth : sourceWidth;
+    const int height = outputHeight > 0 ? outputHeight : sourceHeight;
+    const std::size_t channelBytes = wide ? 2 : 1;
+    const std::size_t rowBytes = static_cast<std::size_t>(sourceWidth) * 4 * channelBytes;
+    const auto channel = [&](const std::uint8_t* p, int c) -> int {
+        if (!wide)
+            return p[c];
+        std::uint16_t v = 0;
+        std::memcpy(&v, p + 2 * c, 2); // the decoder gives host order
+        return (v + 128 - ((v + 128) >> 8)) >> 8;
+    };
     IconBitmap out{Frame(width, height, kBlack), Frame(width, height, kWhite)};
     for (int y = 0; y < height; ++y) {
-        const int sy = static_cast<int>(static_cast<long long>(y) * image.height() / height);
-        const auto* line =
-            converted ? reinterpret_cast<const QRgb*>(image.constScanLine(sy)) : nullptr;
+        const int sy = static_cast<int>(static_cast<long long>(y) * sourceHeight / height);
+        const std::uint8_t* line = pixels.data() + static_cast<std::size_t>(sy) * rowBytes;
         for (int x = 0; x < width; ++x) {
-            const int sx = static_cast<int>(static_cast<long long>(x) * image.width() / width);
-            const QRgb p = converted ? line[sx] : image.pixel(sx, sy);
-            if (qAlpha(p) >= 128) {
-                out.image.set(x, y, rgb(qRed(p), qGreen(p), qBlue(p)));
+            const int sx = static_cast<int>(static_cast<long long>(x) * sourceWidth / width);
+            const std::uint8_t* p = line + static_cast<std::size_t>(sx) * 4 * channelBytes;
+            if (channel(p, 3) >= 128) {
+                out.image.set(x, y, rgb(channel(p, 0), channel(p, 1), channel(p, 2)));
                 out.mask.set(x, y, kBlack);
             }
         }

@@ -21,7 +21,7 @@ bool isPng(std::span<const std::uint8_t> bytes);
 // The header of a PNG image; nothing when it is not a PNG or its size is outside 1..1024.
 std::optional<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes);
 
-// Decodes a PNG image of an icon with Qt's PNG reader: alpha below 128 is transparent (black
+// Decodes a PNG image of an icon (libspng): alpha below 128 is transparent (black
 // under a white mask), other pixels keep their own colour. Nothing when it cannot be decoded.
 // With an output size, pixels are dropped or repeated to that size, as resample() does.
 std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, int outputWidth = 0,

@@ -16,16 +16,17 @@ namespace {
 
 std::atomic<WriteFunction> g_write{nullptr};
 
-SaveResult failure(SaveError error, const QString& text, const std::filesystem::path& path) {
-    return {error, text.arg(textFromPath(path))};
+// "<before>« <path> »<after>", the path as the file system spells it.
+SaveResult failure(SaveError error, const char* before, const std::filesystem::path& path,
+                   const char* after) {
+    return {error, std::string(before) + "« " + path.native() + " »" + after};
 }
 
 SaveResult writeFailure(const std::filesystem::path& path, int error) {
-    const QString reason =
-        error == ENOSPC || error == EDQUOT ? QStringLiteral(" (disque plein)") : QString();
-    return {SaveError::WriteFailed,
-            QStringLiteral("l'écriture de « %1 » a échoué%2 ; le fichier n'a pas changé.")
-                .arg(textFromPath(path), reason)};
+    return failure(SaveError::WriteFailed, "l'écriture de ", path,
+                   error == ENOSPC || error == EDQUOT
+                       ? " a échoué (disque plein) ; le fichier n'a pas changé."
+                       : " a échoué ; le fichier n'a pas changé.");
 }
 
 // Writes all of `bytes`; false (errno set) on the first failure or a write that makes no progress.
@@ -77,13 +78,9 @@ void setWriteFunction(WriteFunction write) {
     g_write.store(write);
 }
 
-SaveResult saveFileSafely(const QString& path, std::span<const std::uint8_t> content,
-                          bool keepTail) {
-    return saveFileSafely(pathFromText(path), content, keepTail);
-}
-
 SaveResult saveFileSafely(const std::filesystem::path& requested,
-                          std::span<const std::uint8_t> content, bool keepTail) {
+                          std::span<const std::uint8_t> content, bool keepTail,
+                          Durability durability) {
     std::filesystem::path path = requested;
     struct stat old {};
     const bool exists = ::stat(path.c_str(), &old) == 0;
@@ -99,18 +96,16 @@ SaveResult saveFileSafely(const std::filesystem::path& requested,
         folder = ".";
     struct stat folderInfo {};
     if (::stat(folder.c_str(), &folderInfo) != 0 || !S_ISDIR(folderInfo.st_mode))
-        return failure(SaveError::FolderMissing,
-                       QStringLiteral("le dossier de « %1 » n'existe pas."), requested);
+        return failure(SaveError::FolderMissing, "le dossier de ", requested, " n'existe pas.");
     if (exists && (!S_ISREG(old.st_mode) || ::access(path.c_str(), W_OK) != 0))
-        return failure(SaveError::NotWritable,
-                       QStringLiteral("le fichier « %1 » est protégé en écriture."), requested);
+        return failure(SaveError::NotWritable, "le fichier ", requested,
+                       " est protégé en écriture.");
 
     std::vector<std::uint8_t> tail;
     if (keepTail && exists) {
         const std::optional<std::vector<std::uint8_t>> bytes = readFileBytes(path);
         if (!bytes)
-            return failure(SaveError::NotWritable,
-                           QStringLiteral("impossible de lire le fichier « %1 »."), requested);
+            return failure(SaveError::NotWritable, "impossible de lire le fichier ", requested, ".");
         if (bytes->size() > content.size())
             tail.assign(bytes->begin() + static_cast<std::ptrdiff_t>(content.size()), bytes->end());
     }
@@ -118,14 +113,16 @@ SaveResult saveFileSafely(const std::filesystem::path& requested,
     std::filesystem::path temporary;
     const int fd = createTemporary(path, temporary);
     if (fd < 0)
-        return failure(SaveError::NotWritable,
-                       QStringLiteral("impossible d'écrire dans le dossier de « %1 »."), requested);
+        return failure(SaveError::NotWritable, "impossible d'écrire dans le dossier de ", requested,
+                       ".");
     if (exists) {
         // The replacement keeps the old file's permissions and, where allowed, its owner.
         ::fchmod(fd, old.st_mode & 07777);
         [[maybe_unused]] const int owned = ::fchown(fd, old.st_uid, old.st_gid);
     }
-    bool written = writeAll(fd, content) && writeAll(fd, tail) && ::fsync(fd) == 0;
+    const bool flushed = durability == Durability::Flushed;
+    bool written =
+        writeAll(fd, content) && writeAll(fd, tail) && (!flushed || ::fsync(fd) == 0);
     int error = written ? 0 : errno;
     // A full disk may show only when the file is closed (network and some other file systems).
     if (::close(fd) != 0 && written) {
@@ -140,7 +137,8 @@ SaveResult saveFileSafely(const std::filesystem::path& requested,
         ::unlink(temporary.c_str());
         return writeFailure(requested, error);
     }
-    syncFolder(folder);
+    if (flushed)
+        syncFolder(folder);
     return {};
 }
 

@@ -11,6 +11,7 @@ packages=(
     xvfb xauth xdotool imagemagick dbus-daemon
     libcanberra-dev fonts-dejavu-core
     help2man librsvg2-bin appstream desktop-file-utils
+    libspng-dev icoutils
 )
 
 missing=()

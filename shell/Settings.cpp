@@ -1,6 +1,7 @@
 #include "shell/Settings.h"
 
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 #include "shell/SettingsStore.h"
 
 #include <QStandardPaths>
@@ -19,7 +20,7 @@ QString storeFileName() {
 // One store for the whole run, made again when the configuration folder changes (tests).
 SettingsStore& store() {
     static std::unique_ptr<SettingsStore> held;
-    const std::filesystem::path file = icon::pathFromText(storeFileName());
+    const std::filesystem::path file = iconqt::pathFromText(storeFileName());
     if (!held || held->file() != file)
         held = std::make_unique<SettingsStore>(file);
     return *held;

@@ -2,6 +2,7 @@
 
 #include "icon/FileBytes.h"
 #include "icon/SafeSave.h"
+#include "iconqt/Paths.h"
 
 #include <QDateTime>
 #include <QStringDecoder>
@@ -67,14 +68,14 @@ void SettingsStore::load() {
 void SettingsStore::setAside(const QString& why) {
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     std::filesystem::path aside = m_file;
-    aside += icon::pathFromText(QStringLiteral(".mis-de-côté-") + stamp);
+    aside += iconqt::pathFromText(QStringLiteral(".mis-de-côté-") + stamp);
     const bool moved = std::rename(m_file.c_str(), aside.c_str()) == 0;
     m_loaded = identityOf(m_file);
-    const QString name = icon::textFromPath(m_file);
+    const QString name = iconqt::textFromPath(m_file);
     m_notice = moved ? QStringLiteral("Le fichier des réglages « %1 » %2 : il a été mis de côté "
                                       "sous le nom « %3 ».\nOrvanne® démarre avec les réglages "
                                       "par défaut.")
-                           .arg(name, why, icon::textFromPath(aside))
+                           .arg(name, why, iconqt::textFromPath(aside))
                      : QStringLiteral("Le fichier des réglages « %1 » %2 et n'a pas pu être mis "
                                       "de côté.\nOrvanne® démarre avec les réglages par défaut.")
                            .arg(name, why);

@@ -1,6 +1,7 @@
 #include "shell/Tips.h"
 
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 
 #include <QStringList>
 
@@ -14,7 +15,7 @@ bool Tips::load(const QString& path) {
     if (path.isEmpty())
         return false;
     // A tips file is a few KiB; a file put in its place is not read whole, nor waited on.
-    const auto bytes = icon::readFileBytes(path, 1u << 20);
+    const auto bytes = icon::readFileBytes(iconqt::pathFromText(path), 1u << 20);
     if (!bytes)
         return false;
     QString text = QString::fromUtf8(reinterpret_cast<const char*>(bytes->data()),

@@ -16,6 +16,7 @@
 #include "shell/DataFiles.h"
 
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -164,7 +165,7 @@ void FenPrin::showEvent(QShowEvent* event) {
 }
 
 void FenPrin::openFolder(const QString& folder, MissingFolder report) {
-    openFolder(icon::pathFromText(QDir::cleanPath(QDir(folder).absolutePath())), report);
+    openFolder(iconqt::pathFromText(QDir::cleanPath(QDir(folder).absolutePath())), report);
 }
 
 void FenPrin::openFolder(const std::filesystem::path& folder, MissingFolder report) {
@@ -172,7 +173,7 @@ void FenPrin::openFolder(const std::filesystem::path& folder, MissingFolder repo
     std::filesystem::path real = std::filesystem::absolute(folder, error).lexically_normal();
     if (real.native().size() > 1 && real.native().back() == '/')
         real = real.parent_path();
-    const QString clean = icon::textFromPath(real);
+    const QString clean = iconqt::textFromPath(real);
     const ScanResult result = std::filesystem::is_directory(real, error)
                                   ? m_grid.openFolder(real)
                                   : ScanResult::FolderMissing;
@@ -392,7 +393,7 @@ std::optional<DropTarget> droppedTarget(const QMimeData* data) {
     if (data == nullptr || !data->hasUrls() || data->urls().isEmpty() ||
         !data->urls().front().isLocalFile())
         return std::nullopt;
-    return dropTarget(icon::pathFromText(data->urls().front().toLocalFile()));
+    return dropTarget(iconqt::pathFromText(data->urls().front().toLocalFile()));
 }
 
 } // namespace

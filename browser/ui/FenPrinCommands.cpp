@@ -10,6 +10,7 @@
 #include "browser/ui/FenRen.h"
 #include "browser/ui/IconGridView.h"
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 #include "platform/ClipboardViewer.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpViewer.h"
@@ -64,7 +65,7 @@ void FenPrin::copyCentred() {
         platform::FileRequest request;
         request.title = text(kCopyTitle);
         request.folder = m_copyFolder;
-        request.fileName = proposedName(icon::textFromPath(source));
+        request.fileName = proposedName(iconqt::textFromPath(source));
         request.filter = text(kIconsFilter);
         const auto chosen = platform::dialogs().saveFile(request);
         if (!chosen)
@@ -124,7 +125,7 @@ void FenPrin::trashCentred() {
     if (result.kind != TrashResult::Kind::Trashed) {
         platform::Message message;
         message.title = text(kErrorTitle);
-        message.text = trashFailureText(icon::textFromPath(centred->file.filename()), result);
+        message.text = trashFailureText(iconqt::textFromPath(centred->file.filename()), result);
         message.icon = platform::MessageIcon::Exclamation;
         platform::dialogs().message(message);
     }

@@ -11,6 +11,8 @@
 #include "browser/ui/VisuBMP.h"
 #include "icon/BmpWriter.h"
 #include "icon/FileBytes.h"
+#include "iconqt/FrameImage.h"
+#include "iconqt/Paths.h"
 #include "platform/GradientButton.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
@@ -63,7 +65,7 @@ void FenPrin::takeIconFromFile() {
         return;
     const icon::IconPlanes planes = picker.cells()->source().planes(picker.takenIcon());
     m_taken = icon::compose(planes, kPicIconBackground, 1);
-    const QImage image = m_taken.toImage();
+    const QImage image = iconqt::toImage(m_taken);
     m_picIcon->setPixmap(QPixmap::fromImage(image));
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
@@ -80,7 +82,7 @@ void FenPrin::iconToBmp() {
     IconGridView* view = m_grid.view() == GridView::Icons48 ? m_fond48 : m_fond;
     const icon::Frame picture = BmpExport::picture(centred ? m_grid.cell(geometry.centre) : nullptr,
                                                    geometry.cellSize, view->centre().background());
-    m_bmpName = proposedBmpName(centred ? icon::textFromPath(centred->file) : QString());
+    m_bmpName = proposedBmpName(centred ? iconqt::textFromPath(centred->file) : QString());
     saveBmp(m_bmpName, picture);
 }
 
@@ -101,7 +103,7 @@ void FenPrin::saveBmp(const QString& proposed, const icon::Frame& picture) {
     if (!choice)
         return;
     // A write that fails leaves the old file whole; the command ends without a word.
-    if (!icon::writeBmpFile(choice->path, picture))
+    if (!icon::writeBmpFile(pathOf(choice->path), picture))
         return;
     const std::filesystem::path written = pathOf(choice->path);
     m_bmp.written(written);

@@ -1,6 +1,7 @@
 #include "browser/ui/IconGridView.h"
 
 #include "browser/ui/CentrePicture.h"
+#include "iconqt/FrameImage.h"
 #include "platform/WindowStyle.h"
 
 #include <QMouseEvent>
@@ -13,9 +14,8 @@ QImage thumbnailImage(const Thumbnail& thumbnail, icon::Colour background, int l
     if (thumbnail.state != Thumbnail::State::Icon || thumbnail.picture.isEmpty())
         return {};
     const CellPicture& picture = thumbnail.picture;
-    QImage image =
-        blendOver(side == 0 || side == picture.side ? picture : scaled(picture, side), background)
-            .toImage();
+    QImage image = iconqt::toImage(
+        blendOver(side == 0 || side == picture.side ? picture : scaled(picture, side), background));
     image.setDevicePixelRatio(static_cast<double>(image.width()) / logicalSide);
     return image;
 }

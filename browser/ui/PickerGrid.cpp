@@ -2,6 +2,7 @@
 
 #include "browser/PickerLayout.h"
 #include "icon/Frame.h"
+#include "iconqt/FrameImage.h"
 #include "platform/WindowStyle.h"
 
 #include <QMouseEvent>
@@ -50,7 +51,7 @@ void PickerGrid::paintEvent(QPaintEvent* event) {
                 continue;
             const auto origin = PickerLayout::iconOrigin(index);
             painter.drawImage(origin.x, origin.y,
-                              icon::compose(*planes, m_background, 1).toImage());
+                              iconqt::toImage(icon::compose(*planes, m_background, 1)));
         }
     }
     if (m_selected >= 1 && m_selected <= count) {

@@ -7,6 +7,8 @@
 #include "capture/ui/VisuImg.h"
 #include "icon/BmpWriter.h"
 #include "icon/Frame.h"
+#include "iconqt/FrameImage.h"
+#include "iconqt/Paths.h"
 #include "platform/ApplyScheme.h"
 #include "platform/GradientButton.h"
 #include "platform/HelpBubbles.h"
@@ -157,12 +159,12 @@ void FrmSnapShoot::savePicture() {
     const std::optional<QString> path = choice ? bitmapSavePath(choice->path) : std::nullopt;
     if (!path)
         return;
-    const icon::SaveResult result = icon::writeBmpFile(*path, icon::Frame::fromImage(picture()));
+    const icon::SaveResult result = icon::writeBmpFile(iconqt::pathFromText(*path), iconqt::frameFromImage(picture()));
     if (result)
         return;
     platform::Message message;
     message.title = text(kErrorTitle);
-    message.text = result.message;
+    message.text = QString::fromStdString(result.message);
     message.icon = platform::MessageIcon::Exclamation;
     platform::dialogs().message(message);
 }

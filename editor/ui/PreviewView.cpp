@@ -2,6 +2,7 @@
 
 #include "editor/ui/Edges.h"
 #include "icon/Frame.h"
+#include "iconqt/FrameImage.h"
 
 #include <QImage>
 #include <QPainter>
@@ -17,7 +18,7 @@ PreviewView::PreviewView(const IconEditor& engine, QWidget* parent)
 
 void PreviewView::paintEvent(QPaintEvent*) {
     const QImage picture =
-        icon::compose(m_engine.displayedPlanes(), m_engine.previewBackground(), 1).toImage();
+        iconqt::toImage(icon::compose(m_engine.displayedPlanes(), m_engine.previewBackground(), 1));
     QPainter painter(this);
     painter.drawImage(1, 1, picture);
     drawEdge(painter, rect(), true);

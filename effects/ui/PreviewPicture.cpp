@@ -1,4 +1,5 @@
 #include "effects/ui/PreviewPicture.h"
+#include "iconqt/FrameImage.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -12,7 +13,7 @@ PreviewPicture::PreviewPicture(const QString& name, QWidget* parent)
 }
 
 void PreviewPicture::setPicture(const icon::Frame& picture) {
-    m_picture = picture.toImage();
+    m_picture = iconqt::toImage(picture);
     update();
 }
 

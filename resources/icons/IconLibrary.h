@@ -16,9 +16,6 @@ std::vector<IconArt> libraryArt();
 // One icon drawn at one size.
 icon::IconBitmap paint(const IconArt& art, int size);
 
-// An ICO file of bitmaps: 24 bits per pixel with an AND mask, in the given order.
-std::vector<std::uint8_t> encodeIco(const std::vector<icon::IconBitmap>& images);
-
 // The ICO file of one icon: its sizes from the smallest.
 std::vector<std::uint8_t> iconFile(const IconArt& art);
 

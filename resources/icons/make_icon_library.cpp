@@ -3,6 +3,7 @@
 // The optional sheet shows every icon at 48, 32 and 16 pixels, to look them over.
 
 #include "icon/NeWriter.h"
+#include "iconqt/FrameImage.h"
 #include "resources/icons/IconLibrary.h"
 
 #include <QImage>
@@ -29,7 +30,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "make_icon_library: cannot write %s\n", argv[1]);
         return 1;
     }
-    if (argc == 3 && !iconlib::contactSheet().toImage().save(QString::fromUtf8(argv[2]))) {
+    if (argc == 3 && !iconqt::toImage(iconlib::contactSheet()).save(QString::fromUtf8(argv[2]))) {
         std::fprintf(stderr, "make_icon_library: cannot write %s\n", argv[2]);
         return 1;
     }

@@ -6,6 +6,7 @@
 
 #include "icon/FileBytes.h"
 #include "icon/IcoWriter.h"
+#include "iconqt/Paths.h"
 
 #include <QTemporaryDir>
 
@@ -30,7 +31,7 @@ std::filesystem::path makeIcon(const std::filesystem::path& folder, const std::s
 // A file or a folder named by bytes that are not UTF-8 lists, shows and opens like any other.
 TEST(ByteNames, NamesThatAreNotTextShowAndOpen) {
     QTemporaryDir dir;
-    const std::filesystem::path root = icon::pathFromText(dir.path());
+    const std::filesystem::path root = iconqt::pathFromText(dir.path());
     for (const std::filesystem::path& folder : {root, root / std::string("dossier\xe9\xff")}) {
         SCOPED_TRACE(folder.native());
         std::filesystem::create_directories(folder);
@@ -56,7 +57,7 @@ TEST(ByteNames, NamesThatAreNotTextShowAndOpen) {
 // The folder list names folders by their bytes too, so that such a folder can be entered.
 TEST(ByteNames, TheFolderListKeepsTheBytesOfEachFolder) {
     QTemporaryDir dir;
-    const std::filesystem::path root = icon::pathFromText(dir.path());
+    const std::filesystem::path root = iconqt::pathFromText(dir.path());
     const std::filesystem::path odd = root / std::string("Z\xe9\xff");
     std::filesystem::create_directories(odd / "dedans");
     std::filesystem::create_directories(root / "a");
@@ -73,7 +74,7 @@ TEST(ByteNames, TheFolderListKeepsTheBytesOfEachFolder) {
 // A file replaced by a FIFO before its page is shown is an unreadable cell, at once.
 TEST(ByteNames, AFifoInPlaceOfAnIconIsUnreadableAndDoesNotBlock) {
     QTemporaryDir dir;
-    const std::filesystem::path folder = icon::pathFromText(dir.path());
+    const std::filesystem::path folder = iconqt::pathFromText(dir.path());
     const std::filesystem::path file = makeIcon(folder, "a.ico");
     makeIcon(folder, "b.ico");
     browser::IcoThumbnailProvider provider;

@@ -2,6 +2,7 @@
 #include "browser/FolderTree.h"
 #include "browser/Volumes.h"
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,7 +38,7 @@ TEST(FolderScan, ListsIcoFilesInAnyCaseByNameAndShowsThemLowerCased) {
               (QStringList{"A.ICO", "b.ico", "c.Ico", "lien.ico", QStringLiteral("Zèbre.ico")}));
     EXPECT_EQ(shown.first(), (base + QStringLiteral("/a.ico")).toLower());
     EXPECT_TRUE(shown.first().contains(QStringLiteral("mes icônes/")));
-    EXPECT_EQ((*entries)[0].file, icon::pathFromText(base + QStringLiteral("/A.ICO")));
+    EXPECT_EQ((*entries)[0].file, iconqt::pathFromText(base + QStringLiteral("/A.ICO")));
 }
 
 TEST(FolderScan, AMissingFolderIsNotAnEmptyOne) {

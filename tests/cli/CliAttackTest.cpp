@@ -27,7 +27,7 @@ namespace {
 QString writeFile(const QTemporaryDir& dir, const QString& name,
                   const std::vector<std::uint8_t>& bytes) {
     const QString path = dir.filePath(name);
-    EXPECT_TRUE(icon::saveFileSafely(path, bytes, false).ok());
+    EXPECT_TRUE(icon::saveFileSafely(testsupport::pathOf(path), bytes, false).ok());
     return path;
 }
 
@@ -60,7 +60,7 @@ TEST(CliAttacks, AFullDiskKeepsTheOldFileAndFails) {
         GTEST_SKIP() << "a small tmpfs can be mounted only by root: skipped";
     const QString old = disk.path(QStringLiteral("old.ico"));
     std::vector<std::uint8_t> before(3262, 0x5A);
-    ASSERT_TRUE(icon::saveFileSafely(old, before, false).ok());
+    ASSERT_TRUE(icon::saveFileSafely(testsupport::pathOf(old), before, false).ok());
     disk.fill();
     const Outcome r = run({"to-ico", testData("ico/valid/decodeico_apple.ico"), old});
     EXPECT_EQ(r.code, 1);

@@ -43,7 +43,7 @@ TEST(CliContainers, ExtractWritesEachIconNamedAfterTheFile) {
     const QString out = dir.filePath("icones");
     const Outcome r = run({"extract", exe, out});
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    const std::optional<IconSource> source = IconSource::open(exe);
+    const std::optional<IconSource> source = IconSource::open(testsupport::pathOf(exe));
     ASSERT_TRUE(source && source->count() == 6);
     EXPECT_EQ(QDir(out).entryList(QDir::Files).size(), 6);
     for (int n = 1; n <= 6; ++n) {
@@ -70,7 +70,7 @@ TEST(CliContainers, ToIcoTakesIconNAsTheEditorWould) {
         SCOPED_TRACE(c.file);
         QFile::remove(out);
         ASSERT_EQ(run(QStringList{"to-ico", testData(c.file), out} + c.index).code, 0);
-        const std::optional<IconSource> source = IconSource::open(testData(c.file));
+        const std::optional<IconSource> source = IconSource::open(testsupport::pathOf(testData(c.file)));
         const IconFileBytes expected = encodeIconFile(source->planes(c.n));
         EXPECT_EQ(bytesOf(out), std::vector<std::uint8_t>(expected.begin(), expected.end()));
     }

@@ -2,6 +2,7 @@
 
 // Runs the built orvanne-icons and collects what it said.
 #include "icon/FileBytes.h"
+#include "tests/support/TestData.h"
 
 #include <QProcess>
 #include <QString>
@@ -29,7 +30,7 @@ inline Outcome run(const QStringList& args) {
 
 // The bytes of a file the program wrote; empty when there is none.
 inline std::vector<std::uint8_t> bytesOf(const QString& path) {
-    return icon::readFileBytes(path).value_or(std::vector<std::uint8_t>{});
+    return icon::readFileBytes(testsupport::pathOf(path)).value_or(std::vector<std::uint8_t>{});
 }
 
 } // namespace clitest

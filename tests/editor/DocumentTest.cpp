@@ -1,6 +1,7 @@
 #include "editor/Document.h"
 #include "icon/FileBytes.h"
 #include "icon/IcoWriter.h"
+#include "iconqt/Paths.h"
 #include "tests/support/FailingWrites.h"
 #include "tests/support/TestData.h"
 
@@ -232,9 +233,9 @@ using DocumentSaveFailure = DocumentTest;
 // document's path, caption and Modified state all stay as they were.
 TEST_F(DocumentSaveFailure, AFullDiskSavesNothingAndTheDocumentStaysModified) {
     const QString path = m_dir.filePath(QStringLiteral("icone.ico"));
-    ASSERT_TRUE(icon::writeIconFile(path, icon::IconPlanes::blank()).ok());
+    ASSERT_TRUE(icon::writeIconFile(iconqt::pathFromText(path), icon::IconPlanes::blank()).ok());
     ASSERT_TRUE(openHanded(path));
-    const std::vector<std::uint8_t> before = icon::readFileBytes(path).value();
+    const std::vector<std::uint8_t> before = icon::readFileBytes(iconqt::pathFromText(path)).value();
     const QString caption = m_doc.caption();
     draw();
     {
@@ -243,7 +244,7 @@ TEST_F(DocumentSaveFailure, AFullDiskSavesNothingAndTheDocumentStaysModified) {
         m_host.paths = {m_dir.filePath(QStringLiteral("autre.ico"))};
         EXPECT_FALSE(m_doc.saveAs());
     }
-    EXPECT_EQ(icon::readFileBytes(path).value(), before);
+    EXPECT_EQ(icon::readFileBytes(iconqt::pathFromText(path)).value(), before);
     EXPECT_FALSE(QFile::exists(m_dir.filePath(QStringLiteral("autre.ico"))));
     EXPECT_EQ(m_doc.iconPath(), path);
     EXPECT_EQ(m_doc.caption(), caption);
@@ -256,7 +257,7 @@ TEST_F(DocumentSaveFailure, AFullDiskSavesNothingAndTheDocumentStaysModified) {
 // under that same name, not under the text shown for it.
 TEST_F(DocumentSaveFailure, AFileNamedByBytesIsSavedUnderItsOwnName) {
     const std::filesystem::path file =
-        icon::pathFromText(m_dir.path()) / std::string("bad\xff\xfe.ico");
+        iconqt::pathFromText(m_dir.path()) / std::string("bad\xff\xfe.ico");
     ASSERT_TRUE(icon::writeIconFile(file, icon::IconPlanes::blank()).ok());
     m_doc.handOver(file, editor::OpenRequest::Browser);
     ASSERT_TRUE(m_doc.OpenIcon());
@@ -266,7 +267,7 @@ TEST_F(DocumentSaveFailure, AFileNamedByBytesIsSavedUnderItsOwnName) {
     EXPECT_NE(icon::readFileBytes(file).value(),
               std::vector<std::uint8_t>(icon::encodeIconFile(icon::IconPlanes::blank()).begin(),
                                         icon::encodeIconFile(icon::IconPlanes::blank()).end()));
-    const auto names = std::filesystem::directory_iterator(icon::pathFromText(m_dir.path()));
+    const auto names = std::filesystem::directory_iterator(iconqt::pathFromText(m_dir.path()));
     EXPECT_EQ(std::distance(begin(names), end(names)), 1);
     std::filesystem::remove(file);
 }

@@ -97,7 +97,7 @@ Reader readerFor(const QString& path) {
 }
 
 QString nameOf(const IconResource& icon) {
-    return icon.id >= 0 ? QString::number(icon.id) : icon.name;
+    return icon.id >= 0 ? QString::number(icon.id) : QString::fromStdString(icon.name);
 }
 
 // The image data of a one-image reference file: an ICO file's only image, or a bare PNG file.

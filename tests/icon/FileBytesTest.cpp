@@ -1,5 +1,6 @@
 #include "icon/FileBytes.h"
 #include "icon/IconSource.h"
+#include "iconqt/Paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +14,8 @@
 #include <unistd.h>
 
 using namespace icon;
+using iconqt::pathFromText;
+using iconqt::textFromPath;
 
 namespace {
 

@@ -68,7 +68,7 @@ TEST(IcoTestData, EveryValidIconDecodesAtBothBrowserSizes) {
             decodeImage(bytes, directory->images[static_cast<std::size_t>(chosen)]);
         ASSERT_TRUE(whole.has_value());
         EXPECT_EQ(resample(*whole, 48, 48), *big);
-        EXPECT_TRUE(isLoadablePicture(path));
+        EXPECT_TRUE(isLoadablePicture(fileBytes(path)));
     }
 }
 
@@ -93,9 +93,9 @@ TEST(IcoTestData, BrokenIconsAndCursorsAreRefusedOrDecodedCleanly) {
                       valid != odd.contains(nameOf(path)));
         }
     // A PNG file named .ico is no icon, but the validity test still accepts it as a picture.
-    EXPECT_TRUE(isLoadablePicture(testData("ico/invalid/decodeico_favicon-actually-a-png.ico")));
-    EXPECT_FALSE(isLoadablePicture(testData("ico/invalid/qt_35floppy_first8bytes_ff.ico")));
-    EXPECT_FALSE(isLoadablePicture(testData("ico/invalid/pillow_no_icons.ico")));
+    EXPECT_TRUE(isLoadablePicture(fileBytes(testData("ico/invalid/decodeico_favicon-actually-a-png.ico"))));
+    EXPECT_FALSE(isLoadablePicture(fileBytes(testData("ico/invalid/qt_35floppy_first8bytes_ff.ico"))));
+    EXPECT_FALSE(isLoadablePicture(fileBytes(testData("ico/invalid/pillow_no_icons.ico"))));
 }
 
 TEST(IcoTestData, ReferenceDecodingsMatchPixelForPixel) {

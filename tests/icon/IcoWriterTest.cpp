@@ -1,7 +1,9 @@
-#include "icon/IcoWriter.h"
 #include "icon/BmpWriter.h"
 #include "icon/FileBytes.h"
 #include "icon/IcoReader.h"
+#include "icon/IcoWriter.h"
+#include "iconqt/FrameImage.h"
+#include "tests/support/TestData.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,7 +34,7 @@ void writeBytes(const QString& path, const std::vector<std::uint8_t>& bytes) {
 }
 
 std::vector<std::uint8_t> readBytes(const QString& path) {
-    return readFileBytes(path).value_or(std::vector<std::uint8_t>{});
+    return readFileBytes(testsupport::pathOf(path)).value_or(std::vector<std::uint8_t>{});
 }
 
 } // namespace
@@ -127,7 +129,7 @@ TEST(IcoWriter, SavingKeepsALongerFilesTailAndItsPermissions) {
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
 
     const IconPlanes icon = opaque(0x336699);
-    ASSERT_TRUE(writeIconFile(path, icon));
+    ASSERT_TRUE(writeIconFile(testsupport::pathOf(path), icon));
     const std::vector<std::uint8_t> saved = readBytes(path);
     ASSERT_EQ(saved.size(), 10000u);
     const IconFileBytes expected = encodeIconFile(icon);
@@ -140,10 +142,10 @@ TEST(IcoWriter, SavingKeepsALongerFilesTailAndItsPermissions) {
 
     // A shorter file, or none, ends up exactly 3262 bytes long.
     writeBytes(path, std::vector<std::uint8_t>(100, 0xAB));
-    ASSERT_TRUE(writeIconFile(path, icon));
+    ASSERT_TRUE(writeIconFile(testsupport::pathOf(path), icon));
     EXPECT_EQ(readBytes(path).size(), kIconFileBytes);
     const QString fresh = dir.filePath("fresh.ico");
-    ASSERT_TRUE(writeIconFile(fresh, icon));
+    ASSERT_TRUE(writeIconFile(testsupport::pathOf(fresh), icon));
     EXPECT_EQ(readBytes(fresh).size(), kIconFileBytes);
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 2); // no temporary file left
 }
@@ -155,9 +157,9 @@ TEST(IcoWriter, AFailedSaveTouchesNothing) {
     for (auto [path, error] :
          {std::pair{dir.filePath("missing/icon.ico"), SaveError::FolderMissing},
           std::pair{dir.filePath("folder.ico"), SaveError::NotWritable}}) {
-        const SaveResult result = writeIconFile(path, icon);
+        const SaveResult result = writeIconFile(testsupport::pathOf(path), icon);
         EXPECT_EQ(result.error, error) << path.toStdString();
-        EXPECT_FALSE(result.message.isEmpty());
+        EXPECT_FALSE(result.message.empty());
     }
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
     EXPECT_TRUE(QFileInfo(dir.filePath("folder.ico")).isDir());
@@ -167,12 +169,12 @@ TEST(IcoWriter, AFailedSaveTouchesNothing) {
     const QString locked = dir.filePath("locked.ico");
     writeBytes(locked, {1, 2, 3});
     QFile::setPermissions(locked, QFile::ReadOwner);
-    EXPECT_EQ(writeIconFile(locked, icon).error, SaveError::NotWritable);
+    EXPECT_EQ(writeIconFile(testsupport::pathOf(locked), icon).error, SaveError::NotWritable);
     EXPECT_EQ(readBytes(locked), (std::vector<std::uint8_t>{1, 2, 3}));
     const QString closed = dir.filePath("closed");
     QDir(dir.path()).mkdir("closed");
     QFile::setPermissions(closed, QFile::ReadOwner | QFile::ExeOwner);
-    EXPECT_EQ(writeIconFile(closed + "/icon.ico", icon).error, SaveError::NotWritable);
+    EXPECT_EQ(writeIconFile(testsupport::pathOf(closed + "/icon.ico"), icon).error, SaveError::NotWritable);
     QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
@@ -186,6 +188,6 @@ TEST(BmpWriter, WritesA24BitBitmapThatReadsBackAsThePicture) {
     EXPECT_EQ(b[54 + 6], 0xCC); // bottom row first, blue first
     QTemporaryDir dir;
     const QString path = dir.filePath("picture.bmp");
-    ASSERT_TRUE(writeBmpFile(path, picture));
-    EXPECT_EQ(Frame::fromImage(QImage(path)), picture);
+    ASSERT_TRUE(writeBmpFile(testsupport::pathOf(path), picture));
+    EXPECT_EQ(iconqt::frameFromImage(QImage(path)), picture);
 }

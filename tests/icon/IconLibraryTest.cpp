@@ -1,6 +1,7 @@
-#include "resources/icons/IconLibrary.h"
 #include "icon/IcoAssembly.h"
 #include "icon/NeReader.h"
+#include "iconqt/FrameImage.h"
+#include "resources/icons/IconLibrary.h"
 #include "tests/support/TestData.h"
 
 #include <QDir>
@@ -27,14 +28,14 @@ TEST(IconLibrary, EveryIconReadsBackAsItsSource) {
     ASSERT_EQ(icons->size(), art.size());
     for (std::size_t i = 0; i < art.size(); ++i) {
         SCOPED_TRACE(art[i].name);
-        EXPECT_EQ((*icons)[i].name, QString::fromLatin1(art[i].name));
+        EXPECT_EQ((*icons)[i].name, art[i].name);
         EXPECT_EQ(assembleIco(library, (*icons)[i]), iconlib::iconFile(art[i]));
     }
 }
 
 TEST(IconLibrary, IconsAreDrawnNotEmpty) {
     // A sheet of every icon, to look at.
-    EXPECT_TRUE(iconlib::contactSheet().toImage().save(
+    EXPECT_TRUE(iconqt::toImage(iconlib::contactSheet()).save(
         QDir(testsupport::screenshotFolder()).filePath("icon_library.png")));
 
     // Many icons, each at 32 pixels and most at three sizes. Each 32×32 image has both opaque and

@@ -60,10 +60,10 @@ TEST(IconSource, OpensFilesByContent) {
     QTemporaryDir dir;
     const QString renamed = dir.filePath("pidgin.ico");
     ASSERT_TRUE(QFile::copy(testData("pe/penet_pidgin.exe"), renamed));
-    const std::optional<IconSource> source = IconSource::open(renamed);
+    const std::optional<IconSource> source = IconSource::open(testsupport::pathOf(renamed));
     ASSERT_TRUE(source.has_value());
     EXPECT_EQ(source->kind(), Kind::Pe);
-    EXPECT_FALSE(IconSource::open(dir.filePath("missing.exe")).has_value());
+    EXPECT_FALSE(IconSource::open(testsupport::pathOf(dir.filePath("missing.exe"))).has_value());
 }
 
 TEST(IconSource, PlanesAreTheEditorsChoiceFromTheGroup) {
@@ -82,7 +82,7 @@ TEST(IconSource, PlanesAreTheEditorsChoiceFromTheGroup) {
     ASSERT_TRUE(ico.has_value());
     EXPECT_EQ(ico->icoBytes(1), world);
     EXPECT_TRUE(ico->planes(1) == *decodeIconPlanes(world));
-    EXPECT_TRUE(ico->resourceName(1).isEmpty());
+    EXPECT_TRUE(ico->resourceName(1).empty());
 }
 
 TEST(IconSource, GroupsWithoutImagesCountAndGiveBlankPlanes) {

@@ -1,6 +1,7 @@
 #include "icon/Colour.h"
 #include "icon/Frame.h"
 #include "icon/IconPlanes.h"
+#include "iconqt/FrameImage.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +41,7 @@ TEST(Compose, EachIconPixelBecomesAZoomBlock) {
 TEST(Frame, ImageRoundTripKeepsColours) {
     Frame f(3, 2, 0x010203);
     f.set(2, 1, 0xA0B0C0);
-    const QImage image = f.toImage();
+    const QImage image = iconqt::toImage(f);
     EXPECT_EQ(qRed(image.pixel(2, 1)), 0xC0);
-    EXPECT_EQ(Frame::fromImage(image), f);
+    EXPECT_EQ(iconqt::frameFromImage(image), f);
 }

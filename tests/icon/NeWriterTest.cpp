@@ -40,7 +40,7 @@ TEST(NeWriter, LibraryReadsBackAsWritten) {
     const auto read = readNeIcons(*library);
     ASSERT_TRUE(read.has_value());
     ASSERT_EQ(read->size(), icons.size());
-    const std::vector<QString> names = {"DOSSIER", "", "FLECHE_HAUT", ""};
+    const std::vector<std::string> names = {"DOSSIER", "", "FLECHE_HAUT", ""};
     const std::vector<int> ids = {-1, 2, -1, 4};
     for (std::size_t i = 0; i < icons.size(); ++i) {
         SCOPED_TRACE(i);
@@ -63,7 +63,7 @@ TEST(NeWriter, RefusesWhatItCannotWrite) {
     struct Case {
         const char* what;
         std::vector<LibraryIcon> icons;
-        QString module;
+        std::string module;
     };
     Bytes truncated = icoFile({32});
     truncated.resize(100);

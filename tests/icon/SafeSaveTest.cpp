@@ -2,6 +2,7 @@
 #include "icon/FileBytes.h"
 #include "icon/IcoWriter.h"
 #include "tests/support/FailingWrites.h"
+#include "tests/support/TestData.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,7 +25,7 @@ std::vector<std::uint8_t> pattern(std::size_t size, std::uint8_t seed) {
 }
 
 std::vector<std::uint8_t> contentOf(const QString& path) {
-    return readFileBytes(path).value_or(std::vector<std::uint8_t>{});
+    return readFileBytes(testsupport::pathOf(path)).value_or(std::vector<std::uint8_t>{});
 }
 
 // Everything in the folder but `keep`: a failed save must leave no temporary file behind.
@@ -45,15 +46,14 @@ TEST(SafeSave, AFailingWriteLeavesTheOldFileAndSaysSo) {
         SCOPED_TRACE(allowed);
         QTemporaryDir dir;
         const QString path = dir.filePath(QStringLiteral("old.ico"));
-        ASSERT_TRUE(saveFileSafely(path, old, false).ok());
+        ASSERT_TRUE(saveFileSafely(testsupport::pathOf(path), old, false).ok());
         SaveResult result;
         {
             FailingWrites full(allowed);
-            result = saveFileSafely(path, fresh, true);
+            result = saveFileSafely(testsupport::pathOf(path), fresh, true);
         }
         EXPECT_EQ(result.error, SaveError::WriteFailed);
-        EXPECT_TRUE(result.message.contains(QStringLiteral("disque plein")))
-            << result.message.toStdString();
+        EXPECT_NE(result.message.find("disque plein"), std::string::npos) << result.message;
         EXPECT_EQ(contentOf(path), old);
         EXPECT_TRUE(othersIn(dir.path(), QStringLiteral("old.ico")).isEmpty());
     }
@@ -63,17 +63,17 @@ TEST(SafeSave, TheIconWriterReportsAFullDisk) {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("a.ico"));
     FailingWrites full(1000);
-    EXPECT_FALSE(writeIconFile(path, IconPlanes::blank()).ok());
+    EXPECT_FALSE(writeIconFile(testsupport::pathOf(path), IconPlanes::blank()).ok());
     EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST(SafeSave, ReplacesTheFileKeepingItsTailAndPermissions) {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("old.ico"));
-    ASSERT_TRUE(saveFileSafely(path, pattern(50, 1), false).ok());
+    ASSERT_TRUE(saveFileSafely(testsupport::pathOf(path), pattern(50, 1), false).ok());
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0640), 0);
     const std::vector<std::uint8_t> fresh = pattern(20, 200);
-    ASSERT_TRUE(saveFileSafely(path, fresh, true).ok());
+    ASSERT_TRUE(saveFileSafely(testsupport::pathOf(path), fresh, true).ok());
     std::vector<std::uint8_t> expected = fresh;
     const std::vector<std::uint8_t> old = pattern(50, 1);
     expected.insert(expected.end(), old.begin() + 20, old.end());
@@ -90,9 +90,9 @@ TEST(SafeSave, AFullFileSystemKeepsTheOldFile) {
         GTEST_SKIP() << "a small tmpfs can be mounted only by root: skipped";
     const QString path = disk.path(QStringLiteral("old.ico"));
     const std::vector<std::uint8_t> old = pattern(3262, 5);
-    ASSERT_TRUE(saveFileSafely(path, old, false).ok());
+    ASSERT_TRUE(saveFileSafely(testsupport::pathOf(path), old, false).ok());
     disk.fill();
-    const SaveResult result = writeIconFile(path, IconPlanes::blank());
+    const SaveResult result = writeIconFile(testsupport::pathOf(path), IconPlanes::blank());
     EXPECT_EQ(result.error, SaveError::WriteFailed);
     EXPECT_EQ(contentOf(path), old);
 }

@@ -1,9 +1,11 @@
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 #include "tests/browser/ui/FenPrinFixture.h"
 
 #include "browser/NameRules.h"
 #include "browser/ui/FrmIcons.h"
 #include "browser/ui/VisuBMP.h"
+#include "iconqt/FrameImage.h"
 #include "tests/support/TestData.h"
 
 #include <QClipboard>
@@ -59,11 +61,11 @@ TEST_F(FenPrinExtract, OkTakesTheSelectedIconOntoPicIconAndTheClipboard) {
 
     pick(firefox, 3, true);
     ASSERT_EQ(m_window->takenIcon().width(), 32);
-    auto source = icon::IconSource::open(firefox);
+    auto source = icon::IconSource::open(testsupport::pathOf(firefox));
     EXPECT_EQ(m_window->takenIcon(), icon::compose(source->planes(3), 0xC0C0C0, 1))
         << "icon n°3 is the source's third icon";
     EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
-              m_window->takenIcon().toImage());
+              iconqt::toImage(m_window->takenIcon()));
     EXPECT_EQ(m_sound.clicks, 1);
     EXPECT_TRUE(button("CmdIcoBmpDLL")->isEnabled());
     EXPECT_EQ(m_window->pickerState().file.filename(), "penet_firefox_x64.exe")
@@ -72,12 +74,12 @@ TEST_F(FenPrinExtract, OkTakesTheSelectedIconOntoPicIconAndTheClipboard) {
     m_dialogs.chooseFile(bmpPath("prise.bmp"));
     click("CmdIcoBmpDLL");
     const QImage written(bmpPath("prise.bmp"));
-    EXPECT_EQ(written.convertToFormat(QImage::Format_RGB32), m_window->takenIcon().toImage());
+    EXPECT_EQ(written.convertToFormat(QImage::Format_RGB32), iconqt::toImage(m_window->takenIcon()));
 }
 
 TEST_F(FenPrinExtract, IcoToBmpWritesTheCentredIconAtTheViewSize) {
     m_window->openFolder(realIconFolder());
-    const QString centred = icon::textFromPath(m_window->grid().centred()->file);
+    const QString centred = iconqt::textFromPath(m_window->grid().centred()->file);
     m_dialogs.cancel();
     click("CmdIcoBmp");
     EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::SaveFile);

@@ -1,4 +1,5 @@
 #include "icon/FileBytes.h"
+#include "iconqt/Paths.h"
 #include "tests/browser/ui/FenPrinFixture.h"
 
 #include "browser/ui/CentrePicture.h"
@@ -235,7 +236,7 @@ TEST_F(FenPrinFixture, TheCentrePictureHandsTheRealPathToTheEditor) {
     QTest::mousePress(centre, Qt::RightButton);
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(m_sound.clicks, 1);
-    EXPECT_EQ(handed, icon::pathFromText(QDir(folder).filePath(QStringLiteral("Grand.ICO"))));
+    EXPECT_EQ(handed, iconqt::pathFromText(QDir(folder).filePath(QStringLiteral("Grand.ICO"))));
     EXPECT_EQ(m_window->pathText(), QDir(folder).filePath(QStringLiteral("grand.ico")).toLower());
 }
 

@@ -1,8 +1,9 @@
-#include "editor/ui/FrmIcoEd.h"
 #include "editor/ui/CanvasView.h"
 #include "editor/ui/FrmClipData.h"
+#include "editor/ui/FrmIcoEd.h"
 #include "icon/FileBytes.h"
 #include "icon/IcoReader.h"
+#include "iconqt/Paths.h"
 #include "platform/ClipboardViewer.h"
 #include "platform/GradientButton.h"
 #include "platform/GradientPanel.h"
@@ -133,7 +134,7 @@ TEST_F(FrmIcoEdTest, TheTypicalEditEndsInA3262ByteFileWithTheDrawnPixels) {
     m_dialogs.chooseFile(target);
     choose("CmdFichier", "CmdSaveAs", 0);
     ASSERT_EQ(QFileInfo(target).size(), 3262);
-    const auto bytes = icon::readFileBytes(target);
+    const auto bytes = icon::readFileBytes(iconqt::pathFromText(target));
     const auto saved = icon::decodeIconPlanes(*bytes);
     ASSERT_TRUE(saved);
     for (int x = 5; x <= 9; ++x) {
@@ -279,7 +280,7 @@ TEST_F(FrmIcoEdTest, ClosingAsksFirstAndCancelKeepsTheWindowOpen) {
 
 TEST_F(FrmIcoEdTest, ACentreIconHandedOverOpensFromTheFichierPadAndWarnsAtItsSave) {
     const QString world = copyOf(QStringLiteral("qt_WORLD.ico"));
-    m_window->handOver(icon::pathFromText(world));
+    m_window->handOver(iconqt::pathFromText(world));
     QTest::mousePress(button("CmdFichier"), Qt::RightButton);
     QTest::mouseRelease(button("CmdFichier"), Qt::RightButton);
     EXPECT_TRUE(m_dialogs.asked().empty());

@@ -5,6 +5,7 @@
 #include "effects/ui/FrmRndIcon.h"
 #include "effects/ui/FrmShades.h"
 #include "effects/ui/PreviewPicture.h"
+#include "iconqt/FrameImage.h"
 #include "platform/Services.h"
 #include "shell/AppState.h"
 #include "tests/support/Screenshot.h"
@@ -153,7 +154,7 @@ TEST_F(EffectDialogs, KaleidoscopeControlsReachThePreviewAndOkLaysItUnderTheIcon
     m_dialogs.onModal([&](QDialog& dialog) {
         EXPECT_EQ(text(dialog, QStringLiteral("LblDensity")), QStringLiteral("250"));
         EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")),
-                  icon::Frame(32, 32, viewing).toImage());
+                  iconqt::toImage(icon::Frame(32, 32, viewing)));
         spin(dialog, QStringLiteral("UDdensity"), false, 23);
         EXPECT_EQ(text(dialog, QStringLiteral("LblDensity")), QStringLiteral("20"));
 
@@ -163,12 +164,12 @@ TEST_F(EffectDialogs, KaleidoscopeControlsReachThePreviewAndOkLaysItUnderTheIcon
         QTest::mouseDClick(child(dialog, QStringLiteral("PicRnd")), Qt::LeftButton);
         EXPECT_EQ(m_dialogs.last().kind, Asked::Kind::Colour);
         EXPECT_EQ(m_dialogs.last().colour, viewing);
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), icon::Frame(32, 32, 0).toImage());
+        EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), iconqt::toImage(icon::Frame(32, 32, 0)));
 
         click(dialog, QStringLiteral("CmdGenerate"));
         effects::Kaleidoscope::generate(20, 0, replay);
         expected = effects::Kaleidoscope::generate(20, 0, replay);
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), expected.toImage());
+        EXPECT_EQ(preview(dialog, QStringLiteral("PicRnd")), iconqt::toImage(expected));
         testsupport::saveScreenshot(dialog, QStringLiteral("FrmRndIcon"));
         click(dialog, QStringLiteral("CmdOK"));
     });
@@ -212,11 +213,11 @@ TEST_F(EffectDialogs, GradientControlsReachThePreviewAndOkAppliesWhatItShows) {
             rgb(255, 7, 255));
         click(dialog, QStringLiteral("CmdGradient"));
         EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")),
-                  effects::Gradient::render(rgb(200, 0, 0), rgb(255, 7, 255), 0).toImage());
+                  iconqt::toImage(effects::Gradient::render(rgb(200, 0, 0), rgb(255, 7, 255), 0)));
         spin(dialog, QStringLiteral("VsbDegrees"), true, 3);
         EXPECT_EQ(text(dialog, QStringLiteral("LblDegrees")), QStringLiteral("135"));
         shown = effects::Gradient::render(rgb(200, 0, 0), rgb(255, 7, 255), 135);
-        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")), shown.toImage());
+        EXPECT_EQ(preview(dialog, QStringLiteral("PicSml")), iconqt::toImage(shown));
         testsupport::saveScreenshot(dialog, QStringLiteral("FrmShades"));
         click(dialog, QStringLiteral("CmdOK"));
     });
