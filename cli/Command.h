@@ -25,5 +25,7 @@ int runToIco(const Arguments& args, Console& console);
 int runToBmp(const Arguments& args, Console& console);
 int runList(const Arguments& args, Console& console);
 int runExtract(const Arguments& args, Console& console);
+int runToPng(const Arguments& args, Console& console);
+int runThumbnail(const Arguments& args, Console& console);
 
 } // namespace cli

@@ -50,6 +50,23 @@ const std::array kCommands{
             2,
             2,
             cli::runExtract},
+    Command{"to-png",
+            "to-png ENTRÉE SORTIE [--index N] [--size S]",
+            "Écrit une image de l'icône N (1 par défaut) de ENTRÉE, telle qu'elle est enregistrée, "
+            "dans un fichier PNG RGBA qui garde son alpha : la plus proche de S pixels, la plus "
+            "grande par défaut.",
+            {"--index", "--size"},
+            2,
+            2,
+            cli::runToPng},
+    Command{"thumbnail",
+            "thumbnail --size N ENTRÉE SORTIE.png",
+            "Écrit la vignette de N×N pixels au plus de la première icône de ENTRÉE (ICO, CUR, "
+            "ANI, EXE, DLL ou ICL) dans un fichier PNG, avec son alpha.",
+            {"--size"},
+            2,
+            2,
+            cli::runThumbnail},
 };
 
 void printUsage(std::ostream& out) {

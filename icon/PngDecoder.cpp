@@ -154,4 +154,31 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, in
     return out;
 }
 
+std::optional<PngPixels> decodePngRgba(std::span<const std::uint8_t> bytes) {
+    const std::optional<PngHeader> header = readPngHeader(bytes);
+    if (!header)
+        return std::nullopt;
+    const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
+    if (!png)
+        return std::nullopt;
+    const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context(
+        spng_ctx_new(SPNG_CTX_IGNORE_ADLER32), spng_ctx_free);
+    if (!context || spng_set_png_buffer(context.get(), png->data(), png->size()) != 0 ||
+        spng_set_image_limits(context.get(), kMaxPngSide, kMaxPngSide) != 0)
+        return std::nullopt;
+    spng_ihdr ihdr{};
+    if (spng_get_ihdr(context.get(), &ihdr) != 0 || ihdr.width != std::uint32_t(header->width) ||
+        ihdr.height != std::uint32_t(header->height))
+        return std::nullopt;
+    std::size_t size = 0;
+    if (spng_decoded_image_size(context.get(), SPNG_FMT_RGBA8, &size) != 0 ||
+        size != std::size_t(header->width) * std::size_t(header->height) * 4)
+        return std::nullopt;
+    PngPixels out{header->width, header->height, std::vector<std::uint8_t>(size)};
+    if (spng_decode_image(context.get(), out.rgba.data(), out.rgba.size(), SPNG_FMT_RGBA8,
+                          SPNG_DECODE_TRNS) != 0)
+        return std::nullopt;
+    return out;
+}
+
 } // namespace icon

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace icon {
 
@@ -26,5 +27,14 @@ std::optional<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes);
 // With an output size, pixels are dropped or repeated to that size, as resample() does.
 std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, int outputWidth = 0,
                                          int outputHeight = 0);
+
+// A PNG image's pixels as stored, 8 bits a channel, red, green, blue, alpha (straight) in that
+// order, row after row; nothing when it cannot be decoded.
+struct PngPixels {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> rgba;
+};
+std::optional<PngPixels> decodePngRgba(std::span<const std::uint8_t> bytes);
 
 } // namespace icon
