@@ -27,5 +27,6 @@ int runList(const Arguments& args, Console& console);
 int runExtract(const Arguments& args, Console& console);
 int runToPng(const Arguments& args, Console& console);
 int runThumbnail(const Arguments& args, Console& console);
+int runCreate(const Arguments& args, Console& console);
 
 } // namespace cli

@@ -67,6 +67,17 @@ const std::array kCommands{
             2,
             2,
             cli::runThumbnail},
+    Command{"create",
+            "create SORTIE.ico IMAGE.png... [--png CÔTÉS] [--bmp CÔTÉS]",
+            "Fait une icône de plusieurs tailles des images PNG (de 1 à 256 pixels de côté, une "
+            "par taille), dans l'ordre donné, chacune en 32 bits avec son alpha : en PNG si son "
+            "plus grand côté est dans --png (256 par défaut), en bitmap avec son masque sinon ou "
+            "s'il est dans --bmp. CÔTÉS : des nombres séparés par des virgules, 256,128 par "
+            "exemple.",
+            {"--png", "--bmp"},
+            2,
+            static_cast<std::size_t>(-1), // the command counts its images itself
+            cli::runCreate},
 };
 
 void printUsage(std::ostream& out) {

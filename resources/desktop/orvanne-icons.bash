@@ -6,7 +6,7 @@ _orvanne_icons() {
     COMPREPLY=()
     if [[ $COMP_CWORD -eq 1 ]]; then
         mapfile -t COMPREPLY < <(compgen -W \
-            "info list extract to-ico to-bmp to-png thumbnail --help --version" -- "$cur")
+            "info list extract to-ico to-bmp to-png thumbnail create --help --version" -- "$cur")
         return
     fi
 
@@ -17,6 +17,7 @@ _orvanne_icons() {
         to-bmp) options="--size --background" ;;
         to-png) options="--index --size" ;;
         thumbnail) options="--size" ;;
+        create) options="--png --bmp" ;;
         *) return ;;
     esac
 
