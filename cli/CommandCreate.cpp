@@ -87,10 +87,10 @@ int runCreate(const Arguments& args, Console& console) {
         const int height = read.picture->height;
         for (std::size_t j = 0; j < images.size(); ++j)
             if (images[j].picture.width == width && images[j].picture.height == height)
-                return console.fail(kRefused, quoted(path) + " a la taille " +
-                                                  sizeName(width, height) + " de " +
-                                                  quoted(inputs[j]) +
-                                                  " : une icône n'a qu'une image de chaque taille.");
+                return console.fail(kRefused,
+                                    quoted(path) + " a la taille " + sizeName(width, height) +
+                                        " de " + quoted(inputs[j]) +
+                                        " : une icône n'a qu'une image de chaque taille.");
         const int side = std::max(width, height);
         icon::EntryFormat format = icon::defaultEntryFormat(width, height);
         if (png->count(side) != 0)

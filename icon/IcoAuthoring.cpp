@@ -83,17 +83,19 @@ PngPicture pictureFromPng(std::span<const std::uint8_t> bytes) {
     RgbaPicture picture;
     picture.width = png->width;
     picture.height = png->height;
-    picture.pixels.resize(static_cast<std::size_t>(png->width) * static_cast<std::size_t>(png->height));
+    picture.pixels.resize(static_cast<std::size_t>(png->width) *
+                          static_cast<std::size_t>(png->height));
     for (std::size_t i = 0; i < picture.pixels.size(); ++i) {
         const std::uint8_t* p = &png->rgba[4 * i];
-        picture.pixels[i] = std::uint32_t{p[3]} << 24 | std::uint32_t{p[0]} << 16 |
-                            std::uint32_t{p[1]} << 8 | p[2];
+        picture.pixels[i] =
+            std::uint32_t{p[3]} << 24 | std::uint32_t{p[0]} << 16 | std::uint32_t{p[1]} << 8 | p[2];
     }
     result.picture = std::move(picture);
     return result;
 }
 
-std::optional<std::vector<std::uint8_t>> encodeMultiSizeIco(const std::vector<AuthoredImage>& images) {
+std::optional<std::vector<std::uint8_t>>
+encodeMultiSizeIco(const std::vector<AuthoredImage>& images) {
     if (images.empty() || images.size() > kMaxAuthoredImages)
         return std::nullopt;
     std::vector<std::vector<std::uint8_t>> entries;
@@ -101,8 +103,8 @@ std::optional<std::vector<std::uint8_t>> encodeMultiSizeIco(const std::vector<Au
     for (const AuthoredImage& image : images) {
         const RgbaPicture& picture = image.picture;
         if (!sideFits(picture.width) || !sideFits(picture.height) ||
-            picture.pixels.size() != static_cast<std::size_t>(picture.width) *
-                                         static_cast<std::size_t>(picture.height))
+            picture.pixels.size() !=
+                static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height))
             return std::nullopt;
         const RgbaPicture straight = unpremultiplied(picture);
         if (image.format == EntryFormat::Png) {

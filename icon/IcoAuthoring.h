@@ -11,8 +11,8 @@
 namespace icon {
 
 // An icon file made from pictures of several sizes, each a 32-bit image with its alpha.
-inline constexpr int kMaxAuthoredSide = 256;              // an icon entry is 1..256 a side
-inline constexpr std::size_t kMaxAuthoredImages = 64;     // images in one made icon file
+inline constexpr int kMaxAuthoredSide = 256;          // an icon entry is 1..256 a side
+inline constexpr std::size_t kMaxAuthoredImages = 64; // images in one made icon file
 
 // How an entry is stored: a 32-bit bitmap with its AND mask, which every reader knows, or a PNG
 // image, much smaller for the large sizes.
@@ -45,6 +45,7 @@ PngPicture pictureFromPng(std::span<const std::uint8_t> bytes);
 // transparent pixels black, then the AND mask rows, set where alpha is 0, each padded to four
 // bytes) or a PNG image. Nothing when there is no image or more than kMaxAuthoredImages, a side
 // is outside 1..256, or a PNG cannot be encoded.
-std::optional<std::vector<std::uint8_t>> encodeMultiSizeIco(const std::vector<AuthoredImage>& images);
+std::optional<std::vector<std::uint8_t>>
+encodeMultiSizeIco(const std::vector<AuthoredImage>& images);
 
 } // namespace icon

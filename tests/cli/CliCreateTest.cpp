@@ -4,6 +4,7 @@
 #include "tests/support/TestData.h"
 
 #include "icon/IcoReader.h"
+#include "icon/PngDecoder.h"
 #include "icon/PngEncoder.h"
 #include "icon/RgbaPicture.h"
 #include "icon/SafeSave.h"
@@ -28,7 +29,8 @@ icon::RgbaPicture picture(int width, int height) {
     p.height = height;
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
-            const std::uint32_t alpha = x + y < 3 ? 0 : static_cast<std::uint32_t>(40 + (x * 7 + y) % 216);
+            const std::uint32_t alpha =
+                x + y < 3 ? 0 : static_cast<std::uint32_t>(40 + (x * 7 + y) % 216);
             p.pixels.push_back(alpha << 24 | std::uint32_t(x * 13 % 256) << 16 |
                                std::uint32_t(y * 29 % 256) << 8 | std::uint32_t((x ^ y) % 256));
         }
@@ -105,6 +107,26 @@ TEST(CliCreate, MakesEveryImageAtItsSizeAndReadsBack) {
                                               .arg(pictures[i].width)
                                               .arg(pictures[i].height)))
                 << lines[i].toStdString();
+
+        // icotool's own decoding of each image, as an outside reference for the pixels.
+        QTemporaryDir extracted;
+        QProcess extract;
+        extract.start(icotool, {"-x", "-o", extracted.path(), out});
+        ASSERT_TRUE(extract.waitForFinished(30000));
+        for (std::size_t i = 0; i < pictures.size(); ++i) {
+            const icon::RgbaPicture& p = pictures[i];
+            const QString name =
+                QString("out_%1_%2x%3x32.png").arg(i + 1).arg(p.width).arg(p.height);
+            const std::optional<icon::PngPixels> png =
+                icon::decodePngRgba(clitest::bytesOf(extracted.filePath(name)));
+            ASSERT_TRUE(png) << name.toStdString();
+            icon::RgbaPicture theirs{png->width, png->height, {}, {}, false};
+            for (std::size_t k = 0; k + 3 < png->rgba.size(); k += 4)
+                theirs.pixels.push_back(std::uint32_t(png->rgba[k + 3]) << 24 |
+                                        std::uint32_t(png->rgba[k]) << 16 |
+                                        std::uint32_t(png->rgba[k + 1]) << 8 | png->rgba[k + 2]);
+            EXPECT_EQ(wrongPixels(theirs, p), 0) << name.toStdString();
+        }
     }
 }
 
