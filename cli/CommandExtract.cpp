@@ -21,10 +21,16 @@ struct Extraction {
     std::string folder;
     Form form = Form::Ico;
     icon::Durability durability = icon::Durability::Cached;
+    bool folderMade = false; // made before the first file is written, not before
 };
 
-int save(const std::string& target, std::span<const std::uint8_t> bytes,
-         const Extraction& job, Console& console) {
+// Writes one file into the folder; a failure stops the whole extraction.
+int save(const std::string& name, std::span<const std::uint8_t> bytes, Extraction& job,
+         Console& console) {
+    if (!job.folderMade && !makeFolder(job.folder, console))
+        return kRefused;
+    job.folderMade = true;
+    const std::string target = inFolder(job.folder, name);
     const icon::SaveResult saved = icon::saveFileSafely(target, bytes, false, job.durability);
     if (!saved)
         return console.fail(kRefused, saved.message);
@@ -34,8 +40,9 @@ int save(const std::string& target, std::span<const std::uint8_t> bytes,
 
 // Every image of icon n as an RGBA PNG: "<name>_<n>_<W>x<H>_<bits>.png", with "_2", "_3"...
 // after an image of the same size and depth as an earlier one.
+// `stopped` is set when a file could not be written.
 int writePngs(const std::string& path, const std::string& prefix, int n,
-              std::span<const std::uint8_t> ico, const Extraction& job, Console& console) {
+              std::span<const std::uint8_t> ico, Extraction& job, Console& console, bool& stopped) {
     const std::optional<icon::IcoDirectory> directory = icon::readIcoDirectory(ico);
     if (!directory)
         return kRefused;
@@ -56,15 +63,17 @@ int writePngs(const std::string& path, const std::string& prefix, int n,
                                                 " est illisible : aucun fichier écrit pour elle.");
             continue;
         }
-        if (const int code = save(inFolder(job.folder, name + ".png"), *png, job, console))
+        if (const int code = save(name + ".png", *png, job, console)) {
+            stopped = true;
             return code;
+        }
     }
     return result;
 }
 
 // The icons of one file, named after `stem`; the exit code for this file.
 int extractFile(const Arguments& args, const std::string& path, const std::string& stem,
-                const Extraction& job, Console& console) {
+                Extraction& job, Console& console, bool& stopped) {
     const std::optional<icon::IconSource> source = openSource(path, console);
     if (!source)
         return kRefused;
@@ -80,11 +89,11 @@ int extractFile(const Arguments& args, const std::string& path, const std::strin
     // anything is, and a file that would fill the disk is refused.
     const std::size_t total = index.number ? source->icoSize(first) : source->totalIcoBytes();
     if (total > icon::kMaxIcoBytesPerFile)
-        return console.fail(kRefused, "les icônes de " + quoted(path) + " feraient " +
-                                          std::to_string(total / (1024 * 1024)) +
-                                          " Mo, plus que les " +
-                                          std::to_string(icon::kMaxIcoBytesPerFile / (1024 * 1024)) +
-                                          " Mo permis : rien n'a été écrit.");
+        return console.fail(kRefused,
+                            "les icônes de " + quoted(path) + " feraient " +
+                                std::to_string(total / (1024 * 1024)) + " Mo, plus que les " +
+                                std::to_string(icon::kMaxIcoBytesPerFile / (1024 * 1024)) +
+                                " Mo permis : rien n'a été écrit.");
     int result = kSuccess;
     int written = 0; // icons written; those without any image do not count against the file
     for (int n = first; n <= last; ++n) {
@@ -92,8 +101,10 @@ int extractFile(const Arguments& args, const std::string& path, const std::strin
         const std::span<const std::uint8_t> cursor =
             job.form == Form::KeepCursors ? source->cursorFile(n) : std::span<const std::uint8_t>();
         if (!cursor.empty() && icon::readIcoDirectory(cursor)) {
-            if (const int code = save(inFolder(job.folder, prefix + ".cur"), cursor, job, console))
+            if (const int code = save(prefix + ".cur", cursor, job, console)) {
+                stopped = true;
                 return code;
+            }
             ++written;
             continue;
         }
@@ -105,12 +116,16 @@ int extractFile(const Arguments& args, const std::string& path, const std::strin
             continue;
         }
         if (job.form == Form::Png) {
-            result = std::max(result, writePngs(path, prefix, n, ico.bytes, job, console));
+            result = std::max(result, writePngs(path, prefix, n, ico.bytes, job, console, stopped));
+            if (stopped)
+                return result;
             ++written;
             continue;
         }
-        if (const int code = save(inFolder(job.folder, prefix + ".ico"), ico.bytes, job, console))
+        if (const int code = save(prefix + ".ico", ico.bytes, job, console)) {
+            stopped = true;
             return code;
+        }
         ++written;
     }
     return written > 0 ? result : kRefused;
@@ -135,13 +150,12 @@ int runExtract(const Arguments& args, Console& console) {
     job.durability = args.option("--index") && inputs.size() == 1 && job.form != Form::Png
                          ? icon::Durability::Flushed
                          : icon::Durability::Cached;
-    if (!makeFolder(job.folder, console))
-        return kRefused;
     const std::vector<std::string> stems = distinctStems(inputs);
     Outcomes outcomes;
     for (std::size_t i = 0; i < inputs.size(); ++i) {
-        const int code = extractFile(args, inputs[i], stems[i], job, console);
-        if (code == kUsage)
+        bool stopped = false; // the folder cannot be written to: the other files would fail too
+        const int code = extractFile(args, inputs[i], stems[i], job, console, stopped);
+        if (code == kUsage || stopped)
             return code;
         outcomes.add(code);
     }

@@ -29,7 +29,8 @@ int runInfo(const Arguments& args, Console& console) {
             << padded(im.format == icon::ImageFormat::Png ? "PNG" : "BMP", -6) << "  "
             << padded(im.size, 10);
         if (cursor)
-            out << "  " << padded(std::to_string(im.hotspotX) + "," + std::to_string(im.hotspotY), 11);
+            out << "  "
+                << padded(std::to_string(im.hotspotX) + "," + std::to_string(im.hotspotY), 11);
         out << (im.usable ? "" : "  illisible") << "\n";
     }
 

@@ -23,7 +23,8 @@ std::string imagesText(const std::optional<icon::IcoDirectory>& directory) {
         if (im.format == icon::ImageFormat::Png)
             text += " PNG";
         if (directory->type == 2)
-            text += " point actif " + std::to_string(im.hotspotX) + "," + std::to_string(im.hotspotY);
+            text +=
+                " point actif " + std::to_string(im.hotspotX) + "," + std::to_string(im.hotspotY);
         if (!im.usable)
             text += " (illisible)";
     }

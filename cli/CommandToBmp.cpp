@@ -31,15 +31,16 @@ std::optional<icon::Colour> parseColour(const std::string& text) {
                      static_cast<int>(value % 256));
 }
 
-int toBmpOne(const std::string& input, const std::string& output, int size,
-             icon::Colour background, Console& console) {
+int toBmpOne(const std::string& input, const std::string& output, int size, icon::Colour background,
+             Console& console) {
     const std::shared_ptr<const icon::MappedFile> file = readInput(input, console);
     if (!file)
         return kRefused;
     const std::optional<icon::IconBitmap> bitmap = icon::decodeIcon(file->bytes(), size);
     if (!bitmap)
         return console.fail(kRefused, quoted(input) + " ne contient aucune icône.");
-    const icon::SaveResult saved = icon::writeBmpFile(output, icon::composeOver(*bitmap, background));
+    const icon::SaveResult saved =
+        icon::writeBmpFile(output, icon::composeOver(*bitmap, background));
     if (!saved)
         return console.fail(kRefused, saved.message);
     return kSuccess;

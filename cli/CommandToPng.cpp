@@ -31,9 +31,9 @@ Size sizeOption(const Arguments& args, Console& console) {
         return {};
     const std::optional<int> n = parseNumber(*text);
     if (!n || *n < 1 || *n > kMaxSize)
-        return {std::nullopt, console.fail(kUsage, "--size attend un nombre de pixels de 1 à " +
-                                                       std::to_string(kMaxSize) + ", pas « " +
-                                                       *text + " ».")};
+        return {std::nullopt,
+                console.fail(kUsage, "--size attend un nombre de pixels de 1 à " +
+                                         std::to_string(kMaxSize) + ", pas « " + *text + " ».")};
     return {*n, 0};
 }
 
@@ -148,15 +148,17 @@ int runThumbnail(const Arguments& args, Console& console) {
     const icon::IcoView ico = source->ico(1);
     std::optional<icon::RgbaPicture> picture = icon::decodeBestRgba(ico.bytes, *size.pixels);
     if (!picture)
-        return console.fail(kRefused, "la première icône de " + quoted(path) +
-                                          " n'a aucune image lisible.");
+        return console.fail(kRefused,
+                            "la première icône de " + quoted(path) + " n'a aucune image lisible.");
     const int side = *size.pixels;
     if (picture->width > side || picture->height > side) {
         // Shrunk to fit, its proportions kept.
-        const int width = std::max(1, static_cast<int>(static_cast<long long>(picture->width) *
-                                                       side / std::max(picture->width, picture->height)));
-        const int height = std::max(1, static_cast<int>(static_cast<long long>(picture->height) *
-                                                        side / std::max(picture->width, picture->height)));
+        const int width =
+            std::max(1, static_cast<int>(static_cast<long long>(picture->width) * side /
+                                         std::max(picture->width, picture->height)));
+        const int height =
+            std::max(1, static_cast<int>(static_cast<long long>(picture->height) * side /
+                                         std::max(picture->width, picture->height)));
         picture = icon::resized(*picture, width, height);
     }
     // The desktop writes thumbnails by the thousand and moves each into its cache itself.

@@ -61,8 +61,8 @@ TEST(CliCursor, KeepCursorsWritesCurFilesWithTheirHotspots) {
     QTemporaryDir dir;
     const QString ani = testData("ani/breeze_wait.ani");
     const QString cur = testData("cur/decodeico_dino.cur");
-    const Outcome r = run({"extract", "--keep-cursors", ani, cur, testData("ico/valid/qt_WORLD.ico"),
-                           dir.path()});
+    const Outcome r = run(
+        {"extract", "--keep-cursors", ani, cur, testData("ico/valid/qt_WORLD.ico"), dir.path()});
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     // A cursor file comes back as it was, hotspot (1,2) included.
     EXPECT_EQ(bytesOf(dir.filePath("decodeico_dino_1.cur")), fileBytes(cur));
@@ -71,8 +71,8 @@ TEST(CliCursor, KeepCursorsWritesCurFilesWithTheirHotspots) {
     ASSERT_TRUE(source);
     for (int n = 1; n <= source->count(); ++n) {
         const std::optional<icon::IcoDirectory> frame = source->directory(n);
-        const std::optional<icon::IcoDirectory> written =
-            icon::readIcoDirectory(bytesOf(dir.filePath(QStringLiteral("breeze_wait_%1.cur").arg(n))));
+        const std::optional<icon::IcoDirectory> written = icon::readIcoDirectory(
+            bytesOf(dir.filePath(QStringLiteral("breeze_wait_%1.cur").arg(n))));
         ASSERT_TRUE(frame && written) << n;
         ASSERT_EQ(written->type, 2);
         ASSERT_EQ(written->images.size(), frame->images.size());
@@ -87,8 +87,7 @@ TEST(CliCursor, KeepCursorsWritesCurFilesWithTheirHotspots) {
 TEST(CliBatch, ExtractPngWritesEveryImageOfEveryIcon) {
     QTemporaryDir dir;
     const QStringList inputs{testData("ico/valid/icojs_basic.ico"),
-                             testData("pe/r2tb_notputty.exe"),
-                             testData("cur/icojs_cursor.cur")};
+                             testData("pe/r2tb_notputty.exe"), testData("cur/icojs_cursor.cur")};
     std::size_t images = 0;
     for (const QString& input : inputs) {
         const std::optional<icon::IconSource> source = icon::IconSource::open(pathOf(input));
@@ -110,8 +109,8 @@ TEST(CliBatch, OneBadInputAmongSeveralGivesOneAndTheOthersAreWritten) {
     ASSERT_TRUE(QDir(dir.path()).mkpath("a"));
     const QString twin = dir.filePath("a/qt_WORLD.ico");
     ASSERT_TRUE(QFile::copy(testData("ico/valid/qt_Qt.ico"), twin));
-    const QStringList inputs{testData("ico/valid/qt_WORLD.ico"), dir.filePath("absent.ico"),
-                             twin, testData("cur/icojs_cursor.cur")};
+    const QStringList inputs{testData("ico/valid/qt_WORLD.ico"), dir.filePath("absent.ico"), twin,
+                             testData("cur/icojs_cursor.cur")};
     struct Case {
         QString command;
         QStringList expected;
