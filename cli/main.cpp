@@ -52,9 +52,9 @@ const std::array kCommands{
             "extract FICHIER... DOSSIER [--index N] [--png | --keep-cursors]",
             "Écrit chaque icône des fichiers (ou l'icône N) dans DOSSIER, en fichier ICO complet "
             "NOM_N.ico nommé d'après le fichier et le numéro de l'icône. --png écrit plutôt "
-            "chaque image de chaque icône en PNG : NOM_N_LxH_BITS.png. --keep-cursors écrit les "
-            "curseurs et les images d'un curseur animé en fichiers CUR avec leur point actif : "
-            "NOM_N.cur.",
+            "chaque image de chaque icône en PNG : NOM_N_LxH_BITS.png. --keep-cursors écrit tels "
+            "quels, en fichiers CUR avec leur point actif, les curseurs et les images curseurs "
+            "d'un curseur animé : NOM_N.cur.",
             {"--index"},
             2,
             kManyInputs,
