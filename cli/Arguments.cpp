@@ -7,6 +7,13 @@ namespace cli {
 std::optional<Arguments> Arguments::parse(const std::vector<std::string>& words,
                                           const std::vector<std::string>& valueOptions,
                                           std::string& error) {
+    return parse(words, valueOptions, {}, error);
+}
+
+std::optional<Arguments> Arguments::parse(const std::vector<std::string>& words,
+                                          const std::vector<std::string>& valueOptions,
+                                          const std::vector<std::string>& flags,
+                                          std::string& error) {
     Arguments args;
     bool onlyPositional = false;
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -24,6 +31,14 @@ std::optional<Arguments> Arguments::parse(const std::vector<std::string>& words,
         if (const std::size_t eq = word.find('='); eq != std::string::npos && eq > 0) {
             name = word.substr(0, eq);
             value = word.substr(eq + 1);
+        }
+        if (std::find(flags.begin(), flags.end(), name) != flags.end()) {
+            if (value) {
+                error = "l'option « " + name + " » ne prend pas de valeur.";
+                return std::nullopt;
+            }
+            args.m_flags.push_back(name);
+            continue;
         }
         if (std::find(valueOptions.begin(), valueOptions.end(), name) == valueOptions.end()) {
             error = "option inconnue « " + name + " ».";
@@ -50,6 +65,10 @@ std::optional<std::string> Arguments::option(const std::string& name) const {
     if (it == m_options.end())
         return std::nullopt;
     return it->second;
+}
+
+bool Arguments::flag(const std::string& name) const {
+    return std::find(m_flags.begin(), m_flags.end(), name) != m_flags.end();
 }
 
 } // namespace cli

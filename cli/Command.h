@@ -18,6 +18,7 @@ struct Command {
     std::size_t minPositional;
     std::size_t maxPositional;
     int (*run)(const Arguments& args, Console& console);
+    std::vector<std::string> flags = {}; // options without a value
 };
 
 int runInfo(const Arguments& args, Console& console);

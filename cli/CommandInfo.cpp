@@ -19,13 +19,19 @@ int runInfo(const Arguments& args, Console& console) {
     out << "Fichier : " << path << "\n";
     out << "Type : " << (directory->type == 2 ? "curseur (CUR)" : "icône (ICO)") << ", " << count
         << (count > 1 ? " images" : " image") << "\n";
-    out << "Image  Largeur  Hauteur  Bits  Format      Octets\n";
+    const bool cursor = directory->type == 2;
+    out << "Image  Largeur  Hauteur  Bits  Format      Octets" << (cursor ? "  Point actif" : "")
+        << "\n";
     for (int i = 0; i < count; ++i) {
         const icon::IcoImageInfo& im = directory->images[static_cast<std::size_t>(i)];
         out << padded(i + 1, 5) << "  " << padded(im.width, 7) << "  " << padded(im.height, 7)
             << "  " << padded(im.bitDepth, 4) << "  "
             << padded(im.format == icon::ImageFormat::Png ? "PNG" : "BMP", -6) << "  "
-            << padded(im.size, 10) << (im.usable ? "" : "  illisible") << "\n";
+            << padded(im.size, 10);
+        if (cursor)
+            out << "  "
+                << padded(std::to_string(im.hotspotX) + "," + std::to_string(im.hotspotY), 11);
+        out << (im.usable ? "" : "  illisible") << "\n";
     }
 
     const std::optional<icon::ChosenImage> chosen =

@@ -9,7 +9,8 @@ namespace cli {
 
 namespace {
 
-// "16×16 4 bits, 32×32 32 bits PNG, ..." for the images of one icon.
+// "16×16 4 bits, 32×32 32 bits PNG, ..." for the images of one icon; a cursor's images say where
+// their hotspot is: "32×32 1 bit point actif 7,7".
 std::string imagesText(const std::optional<icon::IcoDirectory>& directory) {
     if (!directory)
         return "aucune image";
@@ -21,6 +22,9 @@ std::string imagesText(const std::optional<icon::IcoDirectory>& directory) {
                 std::to_string(im.bitDepth) + (im.bitDepth == 1 ? " bit" : " bits");
         if (im.format == icon::ImageFormat::Png)
             text += " PNG";
+        if (directory->type == 2)
+            text +=
+                " point actif " + std::to_string(im.hotspotX) + "," + std::to_string(im.hotspotY);
         if (!im.usable)
             text += " (illisible)";
     }

@@ -1,3 +1,4 @@
+#include "cli/Batch.h"
 #include "cli/Command.h"
 #include "cli/Input.h"
 
@@ -30,12 +31,26 @@ std::optional<icon::Colour> parseColour(const std::string& text) {
                      static_cast<int>(value % 256));
 }
 
+int toBmpOne(const std::string& input, const std::string& output, int size, icon::Colour background,
+             Console& console) {
+    const std::shared_ptr<const icon::MappedFile> file = readInput(input, console);
+    if (!file)
+        return kRefused;
+    const std::optional<icon::IconBitmap> bitmap = icon::decodeIcon(file->bytes(), size);
+    if (!bitmap)
+        return console.fail(kRefused, quoted(input) + " ne contient aucune icône.");
+    const icon::SaveResult saved =
+        icon::writeBmpFile(output, icon::composeOver(*bitmap, background));
+    if (!saved)
+        return console.fail(kRefused, saved.message);
+    return kSuccess;
+}
+
 } // namespace
 
-// Writes the icon as the browser shows it, over its background, as a 24-bit BMP file.
+// Writes the icon as the browser shows it, over its background, as a 24-bit BMP file; several
+// inputs go into the folder named last, each as "<name>.bmp".
 int runToBmp(const Arguments& args, Console& console) {
-    const std::string input = args.at(0);
-    const std::string output = args.at(1);
     const std::string sizeText = args.option("--size").value_or("32");
     if (sizeText != "32" && sizeText != "48")
         return console.fail(kUsage, "--size vaut 32 ou 48, pas « " + sizeText + " ».");
@@ -45,19 +60,19 @@ int runToBmp(const Arguments& args, Console& console) {
     if (!background)
         return console.fail(kUsage, "--background attend une couleur RRGGBB en hexadécimal, par "
                                     "exemple C0C0C0.");
-
-    const std::shared_ptr<const icon::MappedFile> file = readInput(input, console);
-    if (!file)
+    const int size = sizeText == "48" ? 48 : 32;
+    const std::vector<std::string>& words = args.positional();
+    if (words.size() == 2)
+        return toBmpOne(words[0], words[1], size, *background, console);
+    const std::vector<std::string> inputs(words.begin(), words.end() - 1);
+    if (!makeFolder(words.back(), console))
         return kRefused;
-    const std::optional<icon::IconBitmap> bitmap =
-        icon::decodeIcon(file->bytes(), sizeText == "48" ? 48 : 32);
-    if (!bitmap)
-        return console.fail(kRefused, quoted(input) + " ne contient aucune icône.");
-    const icon::SaveResult saved =
-        icon::writeBmpFile(output, icon::composeOver(*bitmap, *background));
-    if (!saved)
-        return console.fail(kRefused, saved.message);
-    return kSuccess;
+    const std::vector<std::string> stems = distinctStems(inputs);
+    Outcomes outcomes;
+    for (std::size_t i = 0; i < inputs.size(); ++i)
+        outcomes.add(toBmpOne(inputs[i], inFolder(words.back(), stems[i] + ".bmp"), size,
+                              *background, console));
+    return outcomes.code();
 }
 
 } // namespace cli

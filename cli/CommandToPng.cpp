@@ -1,3 +1,4 @@
+#include "cli/Batch.h"
 #include "cli/Command.h"
 #include "cli/Input.h"
 #include "cli/SourceInput.h"
@@ -30,9 +31,9 @@ Size sizeOption(const Arguments& args, Console& console) {
         return {};
     const std::optional<int> n = parseNumber(*text);
     if (!n || *n < 1 || *n > kMaxSize)
-        return {std::nullopt, console.fail(kUsage, "--size attend un nombre de pixels de 1 à " +
-                                                       std::to_string(kMaxSize) + ", pas « " +
-                                                       *text + " ».")};
+        return {std::nullopt,
+                console.fail(kUsage, "--size attend un nombre de pixels de 1 à " +
+                                         std::to_string(kMaxSize) + ", pas « " + *text + " ».")};
     return {*n, 0};
 }
 
@@ -83,15 +84,9 @@ int writePng(const icon::RgbaPicture& picture, const std::string& output,
     return kSuccess;
 }
 
-} // namespace
-
-// Writes one image of an icon, as it is stored, to an RGBA PNG file with its alpha.
-int runToPng(const Arguments& args, Console& console) {
-    const std::string path = args.at(0);
-    const std::string output = args.at(1);
-    const Size size = sizeOption(args, console);
-    if (size.failure != 0)
-        return size.failure;
+// One image of icon N of `path` to `output`; the exit code for this input.
+int toPngOne(const Arguments& args, const std::string& path, const std::string& output,
+             std::optional<int> size, icon::Durability durability, Console& console) {
     const std::optional<icon::IconSource> source = openSource(path, console);
     if (!source)
         return kRefused;
@@ -102,11 +97,37 @@ int runToPng(const Arguments& args, Console& console) {
         return console.fail(kRefused, quoted(path) + " ne contient pas d'icône.");
     const int n = index.number.value_or(1);
     const icon::IcoView ico = source->ico(n);
-    const std::optional<icon::RgbaPicture> picture = decodeNearest(ico.bytes, size.pixels);
+    const std::optional<icon::RgbaPicture> picture = decodeNearest(ico.bytes, size);
     if (!picture)
         return console.fail(kRefused, "l'icône n°" + std::to_string(n) + " de " + quoted(path) +
                                           " n'a aucune image lisible.");
-    return writePng(*picture, output, icon::Durability::Flushed, console);
+    return writePng(*picture, output, durability, console);
+}
+
+} // namespace
+
+// Writes one image of an icon, as it is stored, to an RGBA PNG file with its alpha; several
+// inputs go into the folder named last, each as "<name>.png".
+int runToPng(const Arguments& args, Console& console) {
+    const Size size = sizeOption(args, console);
+    if (size.failure != 0)
+        return size.failure;
+    const std::vector<std::string>& words = args.positional();
+    if (words.size() == 2)
+        return toPngOne(args, words[0], words[1], size.pixels, icon::Durability::Flushed, console);
+    const std::vector<std::string> inputs(words.begin(), words.end() - 1);
+    if (!makeFolder(words.back(), console))
+        return kRefused;
+    const std::vector<std::string> stems = distinctStems(inputs);
+    Outcomes outcomes;
+    for (std::size_t i = 0; i < inputs.size(); ++i) {
+        const int code = toPngOne(args, inputs[i], inFolder(words.back(), stems[i] + ".png"),
+                                  size.pixels, icon::Durability::Cached, console);
+        if (code == kUsage)
+            return code;
+        outcomes.add(code);
+    }
+    return outcomes.code();
 }
 
 // The first icon of a file as a thumbnail of at most size×size pixels: the image of that size,
@@ -127,15 +148,17 @@ int runThumbnail(const Arguments& args, Console& console) {
     const icon::IcoView ico = source->ico(1);
     std::optional<icon::RgbaPicture> picture = icon::decodeBestRgba(ico.bytes, *size.pixels);
     if (!picture)
-        return console.fail(kRefused, "la première icône de " + quoted(path) +
-                                          " n'a aucune image lisible.");
+        return console.fail(kRefused,
+                            "la première icône de " + quoted(path) + " n'a aucune image lisible.");
     const int side = *size.pixels;
     if (picture->width > side || picture->height > side) {
         // Shrunk to fit, its proportions kept.
-        const int width = std::max(1, static_cast<int>(static_cast<long long>(picture->width) *
-                                                       side / std::max(picture->width, picture->height)));
-        const int height = std::max(1, static_cast<int>(static_cast<long long>(picture->height) *
-                                                        side / std::max(picture->width, picture->height)));
+        const int width =
+            std::max(1, static_cast<int>(static_cast<long long>(picture->width) * side /
+                                         std::max(picture->width, picture->height)));
+        const int height =
+            std::max(1, static_cast<int>(static_cast<long long>(picture->height) * side /
+                                         std::max(picture->width, picture->height)));
         picture = icon::resized(*picture, width, height);
     }
     // The desktop writes thumbnails by the thousand and moves each into its cache itself.

@@ -10,10 +10,14 @@ namespace {
 
 using cli::Command;
 
+// Commands that take several input files take as many as the command line holds.
+constexpr std::size_t kManyInputs = static_cast<std::size_t>(-1);
+
 const std::array kCommands{
     Command{"info",
             "info FICHIER",
-            "Décrit les images d'un fichier ICO ou CUR et celle que l'éditeur prend en 32×32.",
+            "Décrit les images d'un fichier ICO ou CUR (et le point actif de chaque image d'un "
+            "curseur) et celle que l'éditeur prend en 32×32.",
             {},
             1,
             1,
@@ -27,37 +31,44 @@ const std::array kCommands{
             2,
             cli::runToIco},
     Command{"to-bmp",
-            "to-bmp ENTRÉE SORTIE [--size 32|48] [--background RRGGBB]",
+            "to-bmp ENTRÉE... SORTIE [--size 32|48] [--background RRGGBB]",
             "Écrit l'icône telle que le navigateur la montre, sur son fond (00D2D2 par défaut), "
-            "dans un fichier BMP 24 bits.",
+            "dans un fichier BMP 24 bits. Avec plusieurs ENTRÉES, SORTIE est un dossier où "
+            "chacune devient NOM.bmp.",
             {"--size", "--background"},
             2,
-            2,
+            kManyInputs,
             cli::runToBmp},
     Command{"list",
             "list FICHIER",
             "Compte les icônes d'un fichier ICO, CUR, ANI, EXE, DLL ou ICL et décrit chacune : "
-            "ses images et, dans un exécutable, le nom ou le numéro de sa ressource.",
+            "ses images (avec leur point actif pour un curseur) et, dans un exécutable, le nom ou "
+            "le numéro de sa ressource.",
             {},
             1,
             1,
             cli::runList},
     Command{"extract",
-            "extract FICHIER DOSSIER [--index N]",
-            "Écrit chaque icône du fichier (ou l'icône N) dans DOSSIER, en fichier ICO complet "
-            "nommé d'après le fichier et le numéro de l'icône.",
+            "extract FICHIER... DOSSIER [--index N] [--png | --keep-cursors]",
+            "Écrit chaque icône des fichiers (ou l'icône N) dans DOSSIER, en fichier ICO complet "
+            "NOM_N.ico nommé d'après le fichier et le numéro de l'icône. --png écrit plutôt "
+            "chaque image de chaque icône en PNG : NOM_N_LxH_BITS.png. --keep-cursors écrit tels "
+            "quels, en fichiers CUR avec leur point actif, les curseurs et les images curseurs "
+            "d'un curseur animé : NOM_N.cur.",
             {"--index"},
             2,
-            2,
-            cli::runExtract},
+            kManyInputs,
+            cli::runExtract,
+            {"--png", "--keep-cursors"}},
     Command{"to-png",
-            "to-png ENTRÉE SORTIE [--index N] [--size S]",
+            "to-png ENTRÉE... SORTIE [--index N] [--size S]",
             "Écrit une image de l'icône N (1 par défaut) de ENTRÉE, telle qu'elle est enregistrée, "
             "dans un fichier PNG RGBA qui garde son alpha : la plus proche de S pixels, la plus "
-            "grande par défaut.",
+            "grande par défaut. Avec plusieurs ENTRÉES, SORTIE est un dossier où chacune devient "
+            "NOM.png.",
             {"--index", "--size"},
             2,
-            2,
+            kManyInputs,
             cli::runToPng},
     Command{"thumbnail",
             "thumbnail --size N ENTRÉE SORTIE.png",
@@ -76,7 +87,7 @@ const std::array kCommands{
             "exemple.",
             {"--png", "--bmp"},
             2,
-            static_cast<std::size_t>(-1), // the command counts its images itself
+            kManyInputs, // the command counts its images itself
             cli::runCreate},
 };
 
@@ -86,7 +97,9 @@ void printUsage(std::ostream& out) {
     for (const Command& c : kCommands)
         out << "  " << c.synopsis << "\n      " << c.summary << "\n";
     out << "\nCode de sortie : 0 en cas de succès, 1 si l'entrée est refusée ou la sortie "
-           "impossible à écrire, 2 pour une erreur d'utilisation.\n";
+           "impossible à écrire, 2 pour une erreur d'utilisation. Avec plusieurs entrées, "
+           "chacune est traitée même si une autre est refusée, et le code est 1 si l'une l'a "
+           "été.\n";
 }
 
 } // namespace
@@ -111,7 +124,8 @@ int main(int argc, char** argv) {
         const std::string usage = std::string(" Usage : orvanne-icons ") + c.synopsis;
         std::string error;
         const std::optional<cli::Arguments> args = cli::Arguments::parse(
-            std::vector<std::string>(words.begin() + 1, words.end()), c.valueOptions, error);
+            std::vector<std::string>(words.begin() + 1, words.end()), c.valueOptions, c.flags,
+            error);
         if (!args)
             return console.fail(cli::kUsage, error + usage);
         const std::size_t count = args->positional().size();

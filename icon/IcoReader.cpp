@@ -72,6 +72,10 @@ std::optional<IcoDirectory> readIcoDirectory(std::span<const std::uint8_t> bytes
         info.directoryWidth = reader.u8(entry) == 0 ? 256 : reader.u8(entry);
         info.directoryHeight = reader.u8(entry + 1) == 0 ? 256 : reader.u8(entry + 1);
         info.directoryBitCount = type == kTypeIcon ? reader.u16(entry + 6) : 0;
+        if (type == kTypeCursor) {
+            info.hotspotX = reader.u16(entry + 4);
+            info.hotspotY = reader.u16(entry + 6);
+        }
         info.size = reader.u32(entry + 8);
         info.offset = reader.u32(entry + 12);
         info.width = info.directoryWidth;

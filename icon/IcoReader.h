@@ -29,6 +29,10 @@ struct IcoImageInfo {
     int directoryWidth = 0;   // as the directory says (0 there means 256)
     int directoryHeight = 0;
     int directoryBitCount = 0; // cursors keep their hotspot there instead: 0
+    // A cursor's hotspot, the pixel that points, from the directory's planes and bit count
+    // fields; 0,0 for an icon.
+    int hotspotX = 0;
+    int hotspotY = 0;
     // The image's own header was read and is within the limits, its colour data all there.
     bool usable = false;
 };

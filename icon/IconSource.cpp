@@ -117,6 +117,15 @@ IcoView IconSource::ico(int n) const {
     return view;
 }
 
+std::span<const std::uint8_t> IconSource::cursorFile(int n) const {
+    const IconResource* icon = resource(n);
+    const ByteReader r(bytes());
+    if (!icon || icon->form != IconResource::Form::Embedded ||
+        !r.contains(icon->offset, icon->size) || r.u16(icon->offset + 2) != 2)
+        return {};
+    return bytes().subspan(icon->offset, icon->size);
+}
+
 std::vector<std::uint8_t> IconSource::icoBytes(int n) const {
     IcoView view = ico(n);
     if (!view.assembled.empty())

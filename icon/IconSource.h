@@ -61,6 +61,9 @@ public:
     IconPlanes planes(int n) const;
     // Icon n's resource name (UTF-8), or its number as text; empty when the file has no resources.
     std::string resourceName(int n) const;
+    // Icon n's CUR file, hotspots and all, when it is one lying whole in the file (a cursor
+    // file itself, an animated cursor's frame); empty otherwise.
+    std::span<const std::uint8_t> cursorFile(int n) const;
     // How icon n was found in the file.
     const IconResource* resource(int n) const;
 

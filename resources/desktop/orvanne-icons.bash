@@ -1,5 +1,5 @@
 # Completion of orvanne-icons for bash: the commands, each command's options and values, then
-# file names (folder names for the folder that extract writes into).
+# file names (folders among them).
 _orvanne_icons() {
     local cur=${COMP_WORDS[COMP_CWORD]}
     local prev=${COMP_WORDS[COMP_CWORD - 1]}
@@ -13,7 +13,8 @@ _orvanne_icons() {
     local command=${COMP_WORDS[1]} options
     case $command in
         info | list) options="" ;;
-        extract | to-ico) options="--index" ;;
+        extract) options="--index --png --keep-cursors" ;;
+        to-ico) options="--index" ;;
         to-bmp) options="--size --background" ;;
         to-png) options="--index --size" ;;
         thumbnail) options="--size" ;;
@@ -36,20 +37,9 @@ _orvanne_icons() {
         return
     fi
 
-    # The positional arguments typed so far, options and their values left out.
-    local i positional=0
-    for ((i = 2; i < COMP_CWORD; i++)); do
-        case ${COMP_WORDS[i]} in
-            --index | --size | --background) ((i++)) ;;
-            -*) ;;
-            *) ((positional++)) ;;
-        esac
-    done
     compopt -o filenames 2>/dev/null
-    if [[ $command == extract && $positional -eq 1 ]]; then
-        mapfile -t COMPREPLY < <(compgen -d -- "$cur")
-    else
-        mapfile -t COMPREPLY < <(compgen -f -- "$cur")
-    fi
+    # extract, to-png and to-bmp take several inputs before their output: any word may be a
+    # file or the folder, and file names include folders.
+    mapfile -t COMPREPLY < <(compgen -f -- "$cur")
 }
 complete -F _orvanne_icons orvanne-icons

@@ -29,7 +29,8 @@ TEST(CliContainers, ListGivesTheCountThenOneLinePerIcon) {
     EXPECT_TRUE(lines[5].startsWith(QString::fromUtf8("    3  3  16×16 1 bit, 16×16 4 bits")));
 
     const Outcome ani = run({"list", testData("ani/pillow_stopwtch.ani")});
-    EXPECT_TRUE(ani.out.contains(QString::fromUtf8("Icônes : 8\n    1  32×32 4 bits\n")))
+    EXPECT_TRUE(
+        ani.out.contains(QString::fromUtf8("Icônes : 8\n    1  32×32 4 bits point actif 16,19\n")))
         << ani.out.toStdString();
 
     const Outcome none = run({"list", testData("pe/aclock-x64-win64_no_resources.exe")});
@@ -70,7 +71,8 @@ TEST(CliContainers, ToIcoTakesIconNAsTheEditorWould) {
         SCOPED_TRACE(c.file);
         QFile::remove(out);
         ASSERT_EQ(run(QStringList{"to-ico", testData(c.file), out} + c.index).code, 0);
-        const std::optional<IconSource> source = IconSource::open(testsupport::pathOf(testData(c.file)));
+        const std::optional<IconSource> source =
+            IconSource::open(testsupport::pathOf(testData(c.file)));
         const IconFileBytes expected = encodeIconFile(source->planes(c.n));
         EXPECT_EQ(bytesOf(out), std::vector<std::uint8_t>(expected.begin(), expected.end()));
     }

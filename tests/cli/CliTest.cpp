@@ -46,7 +46,7 @@ TEST(Cli, UsageErrorsExitWithTwo) {
     const Outcome help = run({"--help"});
     EXPECT_EQ(help.code, 0);
     EXPECT_TRUE(help.out.startsWith("Usage : orvanne-icons COMMANDE")) << help.out.toStdString();
-    for (const char* command : {"info FICHIER", "to-ico ENTRÉE SORTIE", "to-bmp ENTRÉE SORTIE"})
+    for (const char* command : {"info FICHIER", "to-ico ENTRÉE SORTIE", "to-bmp ENTRÉE... SORTIE"})
         EXPECT_TRUE(help.out.contains(QString::fromUtf8(command)));
 }
 
