@@ -69,6 +69,32 @@ std::optional<std::vector<std::uint8_t>> essentialChunks(std::span<const std::ui
     return std::nullopt;
 }
 
+// A PNG ready to decode: the chunks that hold its pixels, read by a decoder whose header
+// agrees with the one read first. Kept together because the decoder reads the chunks in place.
+struct PngStream {
+    std::vector<std::uint8_t> chunks;
+    std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context{nullptr, spng_ctx_free};
+    spng_ihdr ihdr{};
+};
+
+std::unique_ptr<PngStream> openPng(std::span<const std::uint8_t> bytes, const PngHeader& header) {
+    std::optional<std::vector<std::uint8_t>> chunks = essentialChunks(bytes);
+    if (!chunks)
+        return nullptr;
+    auto stream = std::make_unique<PngStream>();
+    stream->chunks = std::move(*chunks);
+    stream->context.reset(spng_ctx_new(SPNG_CTX_IGNORE_ADLER32));
+    spng_ctx* const context = stream->context.get();
+    if (!context ||
+        spng_set_png_buffer(context, stream->chunks.data(), stream->chunks.size()) != 0 ||
+        spng_set_image_limits(context, kMaxPngSide, kMaxPngSide) != 0 ||
+        spng_get_ihdr(context, &stream->ihdr) != 0 ||
+        stream->ihdr.width != std::uint32_t(header.width) ||
+        stream->ihdr.height != std::uint32_t(header.height))
+        return nullptr;
+    return stream;
+}
+
 } // namespace
 
 bool isPng(std::span<const std::uint8_t> bytes) {
@@ -103,25 +129,19 @@ std::optional<IconBitmap> decodePngImage(std::span<const std::uint8_t> bytes, in
     const std::optional<PngHeader> header = readPngHeader(bytes);
     if (!header || outputWidth > kMaxPngSide || outputHeight > kMaxPngSide)
         return std::nullopt;
-    const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
-    if (!png)
+    const std::unique_ptr<PngStream> stream = openPng(bytes, *header);
+    if (!stream)
         return std::nullopt;
-    const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context(spng_ctx_new(SPNG_CTX_IGNORE_ADLER32), spng_ctx_free);
-    if (!context || spng_set_png_buffer(context.get(), png->data(), png->size()) != 0 ||
-        spng_set_image_limits(context.get(), kMaxPngSide, kMaxPngSide) != 0)
-        return std::nullopt;
-    spng_ihdr ihdr{};
-    if (spng_get_ihdr(context.get(), &ihdr) != 0 || ihdr.width != std::uint32_t(header->width) ||
-        ihdr.height != std::uint32_t(header->height))
-        return std::nullopt;
+    spng_ctx* const context = stream->context.get();
+    const spng_ihdr& ihdr = stream->ihdr;
     // Sixteen-bit channels are rounded to eight (v / 257), not cut.
     const bool wide = ihdr.bit_depth == 16;
     const int format = wide ? SPNG_FMT_RGBA16 : SPNG_FMT_RGBA8;
     std::size_t size = 0;
-    if (spng_decoded_image_size(context.get(), format, &size) != 0)
+    if (spng_decoded_image_size(context, format, &size) != 0)
         return std::nullopt;
     std::vector<std::uint8_t> pixels(size);
-    if (spng_decode_image(context.get(), pixels.data(), pixels.size(), format, SPNG_DECODE_TRNS) !=
+    if (spng_decode_image(context, pixels.data(), pixels.size(), format, SPNG_DECODE_TRNS) !=
         0)
         return std::nullopt;
 
@@ -158,24 +178,16 @@ std::optional<PngPixels> decodePngRgba(std::span<const std::uint8_t> bytes) {
     const std::optional<PngHeader> header = readPngHeader(bytes);
     if (!header)
         return std::nullopt;
-    const std::optional<std::vector<std::uint8_t>> png = essentialChunks(bytes);
-    if (!png)
+    const std::unique_ptr<PngStream> stream = openPng(bytes, *header);
+    if (!stream)
         return std::nullopt;
-    const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> context(
-        spng_ctx_new(SPNG_CTX_IGNORE_ADLER32), spng_ctx_free);
-    if (!context || spng_set_png_buffer(context.get(), png->data(), png->size()) != 0 ||
-        spng_set_image_limits(context.get(), kMaxPngSide, kMaxPngSide) != 0)
-        return std::nullopt;
-    spng_ihdr ihdr{};
-    if (spng_get_ihdr(context.get(), &ihdr) != 0 || ihdr.width != std::uint32_t(header->width) ||
-        ihdr.height != std::uint32_t(header->height))
-        return std::nullopt;
+    spng_ctx* const context = stream->context.get();
     std::size_t size = 0;
-    if (spng_decoded_image_size(context.get(), SPNG_FMT_RGBA8, &size) != 0 ||
+    if (spng_decoded_image_size(context, SPNG_FMT_RGBA8, &size) != 0 ||
         size != std::size_t(header->width) * std::size_t(header->height) * 4)
         return std::nullopt;
     PngPixels out{header->width, header->height, std::vector<std::uint8_t>(size)};
-    if (spng_decode_image(context.get(), out.rgba.data(), out.rgba.size(), SPNG_FMT_RGBA8,
+    if (spng_decode_image(context, out.rgba.data(), out.rgba.size(), SPNG_FMT_RGBA8,
                           SPNG_DECODE_TRNS) != 0)
         return std::nullopt;
     return out;
